@@ -1,0 +1,63 @@
+// The driver of one command line: folds the argument vector, parses it into
+// the token tree and runs the command it found.
+#pragma once
+
+#include <string>
+
+#include "core/CmdAction.h"
+#include "core/CmdItem.h"
+#include "core/ModifierId.h"
+#include "core/TokenCmd.h"
+#include "core/TokenRoot.h"
+
+class HIsaAdapter;
+class MyMsgHandler;
+
+class Parser {
+public:
+    // A line longer than this after append sets expanded can only come from a
+    // set that includes itself.
+    static constexpr size_t MAX_EXPANDED_LINE = 8192;
+
+    Parser();
+    ~Parser();
+    Parser(Parser const&) = delete;
+    Parser& operator=(Parser const&) = delete;
+
+    // Command text and parsing.
+    void getCommandLine(int argc, char** argv);
+    bool parseToken(std::string& line, std::string& token, char& prefix);
+    bool parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, CmdItem::CMD_ITEM& item,
+                       std::string& err);
+    bool parseModifierToken(std::string& line, ModifierId::MODIFIER_ID& id, std::string& value,
+                            std::string& err);
+    bool specialHandlingForAppendModifier(bool isSetAppend, ModifierId::MODIFIER_ID& id, std::string& value,
+                                          std::string& line, std::string& err);
+    int parseCommandLine(std::string& err);
+    bool isReadyToExec() const;
+    bool isHelpModifierOnCommandLine() const;
+    static std::string addQuotesIfNeeded(std::string const& text);
+    void initParsingTree();
+
+    // Execution frame.
+    int execCommand(std::string& err, unsigned int iteration);
+    static std::string zekcliReturnToText(int code);
+    bool displayIpAddress(HIsaAdapter* adapter, std::string& err) const;
+    void myProgressMsg(int percent) const;
+
+    // Preferences and history.
+    void init();
+    void save();
+    static std::string getHomeDirectory();
+    bool isCommandHistoryFileExists();
+    void updateCommandHistory(int rc, std::string const& out);
+
+    // Help.
+    bool displayDetailedHelp(std::string& err) const;
+
+    MyMsgHandler* msgHandler = nullptr;
+    std::string commandLine;
+    TokenCmd* currentCmd = nullptr;
+    TokenRoot root;
+    std::string historyPath;
+};
