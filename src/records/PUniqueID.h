@@ -82,7 +82,8 @@ protected:
 
     int32_t readInt(int offset) const;
     void writeInt(int offset, int32_t value);
-    std::string dataAsCString() const;
+    // Text stored as a C string from `offset`, never read past the body.
+    std::string cStringAt(int offset) const;
 
     int32_t idType;
     int32_t dataLength;
