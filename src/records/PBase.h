@@ -228,3 +228,12 @@ protected:
 };
 
 static_assert(sizeof(PBase) == 24, "PBase image: vptr and three 32-bit words");
+
+// Pins where a field sits in a record image. Records are polymorphic and so
+// not standard-layout, but the compiler places them by the platform ABI and
+// the library reads exactly that image. Use it where the field is
+// accessible (inside a member function for non-public fields).
+#define ZEK_ASSERT_FIELD_OFFSET(Class, field, offset)                                   \
+    _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Winvalid-offsetof\"") \
+        static_assert(offsetof(Class, field) == (offset), #Class "::" #field " offset");  \
+    _Pragma("GCC diagnostic pop")
