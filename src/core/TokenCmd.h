@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "api/MhbaReturn.h"
 #include "core/CmdAction.h"
 #include "core/CmdItem.h"
 #include "core/ModifierId.h"
@@ -44,8 +45,7 @@ public:
     using Token::outResult;
     bool outDisplay(std::string const& text, std::string& err) const override;
     void outError(std::string const& text) const override;
-    // `status` is 0 or a management API return code.
-    bool outResult(int status, void const* data, unsigned long size, std::string& err) const;
+    bool outResult(e_MHBA_RETURN status, void const* data, unsigned long size, std::string& err) const;
     bool outScript(FILE* stream, std::string const& text, std::string& err) const;
     bool displayIpAddress(HIsaAdapter* adapter, std::string& err) const;
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "api/MhbaReturn.h"
 #include "core/CmdAction.h"
 #include "core/CmdItem.h"
 #include "core/Token.h"
@@ -45,8 +46,7 @@ public:
     void outError(std::string const& text) const override;
     bool outDisplay(std::string const& text, std::string const& fileName, std::string& err) const;
     bool outTextFile(std::string const& text, std::string const& fileName, std::string& err) const;
-    // `status` is 0 or a management API return code.
-    bool outResult(CmdAction::CMD_ACTION action, CmdItem::CMD_ITEM item, int status, void const* data,
+    bool outResult(CmdAction::CMD_ACTION action, CmdItem::CMD_ITEM item, e_MHBA_RETURN status, void const* data,
                    unsigned long size, std::string const& fileName, std::string& err) const;
     bool displayIpAddress(HIsaAdapter* adapter, std::string const& fileName, std::string& err) const;
     void myProgressMsg(int percent) const override;
