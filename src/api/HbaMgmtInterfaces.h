@@ -1,0 +1,25 @@
+// Every interface of the management library in one include, for the code
+// that works with many of them (and for a substitute library).
+#pragma once
+
+#include "api/HAdapterGroupLunCollection.h"
+#include "api/HCluster.h"
+#include "api/HClusterCollection.h"
+#include "api/HDeviceCollection.h"
+#include "api/HDriveCollection.h"
+#include "api/HDriveIdList.h"
+#include "api/HDrivePoolCollection.h"
+#include "api/HIsaAdapter.h"
+#include "api/HIsaAdapterCollection.h"
+#include "api/HInitiatorCollection.h"
+#include "api/HLogView.h"
+#include "api/HLunCollection.h"
+#include "api/HLunIdList.h"
+#include "api/HLunNameIndex.h"
+#include "api/HLunPathTable.h"
+#include "api/HMsgHandler.h"
+#include "api/HTargetCollection.h"
+#include "api/HbaMgmtApi.h"
+#include "api/KAdapterEventNotificationInfo.h"
+#include "api/MHbaReturnBuffer.h"
+#include "api/MhbaReturn.h"
