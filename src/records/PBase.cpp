@@ -85,6 +85,15 @@ bool PBase::serialize(bool write, FILE* file, std::string& error)
     return base_serialize(write, file, reinterpret_cast<char*>(this) + serialOffset, serialSize, error);
 }
 
+void PBase::copySavedArea(const void* objectImage)
+{
+    if (serialOffset == 0 || objectImage == nullptr) {
+        return;
+    }
+    fastMemcpy(reinterpret_cast<char*>(this) + serialOffset, serialSize,
+               static_cast<const char*>(objectImage) + serialOffset, serialSize);
+}
+
 bool PBase::base_serialize(bool write, FILE* file, char* buffer, unsigned int length, std::string& error)
 {
     size_t count = 0;
@@ -204,6 +213,20 @@ std::string PBase::portIdToText(unsigned char* id, unsigned int)
 std::string PBase::uCharPtrToJavaString(unsigned char* text)
 {
     return text == nullptr ? std::string() : std::string(reinterpret_cast<const char*>(text));
+}
+
+std::string PBase::charFieldToText(const char* field, unsigned long size)
+{
+    return field == nullptr ? std::string() : std::string(field, strnlen(field, size));
+}
+
+void PBase::textToCharField(char* field, unsigned long size, const std::string& text)
+{
+    if (field == nullptr || size == 0) {
+        return;
+    }
+    fastMemsetZero(field, size);
+    fastMemcpy(field, size, text.data(), text.size() < size ? text.size() : size - 1);
 }
 
 std::string PBase::wwulnToText(const unsigned char* data, int length, WWULN_CODE_SET_TYPE codeSet)

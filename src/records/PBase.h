@@ -151,6 +151,11 @@ public:
     unsigned int getSerialOffset() const { return serialOffset; }
     unsigned int getSerialSize() const { return serialSize; }
 
+    // Copies the saved area out of the image of a record of the same class
+    // (for example another object, or bytes read from a file). Only the
+    // area is touched, so virtual-table pointers stay this process's own.
+    void copySavedArea(const void* objectImage);
+
     // ---- saving -------------------------------------------------------------
     static bool base_serialize(bool write, FILE* file, char* buffer, unsigned int length,
                                std::string& error);
@@ -187,6 +192,10 @@ public:
     static std::string portIdToText(const unsigned char* id);
     static std::string portIdToText(unsigned char* id, unsigned int length);
     static std::string uCharPtrToJavaString(unsigned char* text);
+    // A fixed character field as text: up to its zero, never past its end.
+    static std::string charFieldToText(const char* field, unsigned long size);
+    // Fills a fixed character field, cut to keep its terminating zero.
+    static void textToCharField(char* field, unsigned long size, const std::string& text);
     static std::string wwulnToText(const unsigned char* data, int length,
                                    WWULN_CODE_SET_TYPE codeSet);
     static bool textToWwname(unsigned int& count, unsigned char* out, unsigned long outSize,
