@@ -3,9 +3,10 @@
 // appended, never moved.
 #pragma once
 
-#include <cctype>
 #include <string>
 #include <vector>
+
+#include "core/TextRules.h"
 
 template <typename T>
 class EnumStrList {
@@ -15,7 +16,7 @@ public:
     void add(T value, std::string const& text)
     {
         (void)value;
-        list.push_back(lowered(text));
+        list.push_back(lowerCaseCopy(text));
     }
 
     std::string textFromVal(T value) const
@@ -31,7 +32,7 @@ public:
     T valFromPartialText(std::string const& text, std::string& err) const
     {
         err.clear();
-        std::string const wanted = lowered(text);
+        std::string const wanted = lowerCaseCopy(text);
         std::vector<size_t> candidates;
         for (size_t i = 0; i < list.size(); ++i) {
             if (wanted == list[i]) {
@@ -59,14 +60,6 @@ protected:
     std::vector<std::string> list;
 
 private:
-    static std::string lowered(std::string const& text)
-    {
-        std::string out(text);
-        for (char& c : out)
-            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        return out;
-    }
-
     std::string ambiguityText(std::vector<size_t> const& candidates) const
     {
         std::string out = "Ambiguous selection, please choose ";
