@@ -13,6 +13,7 @@
 #include "core/TokenInitializer.h"
 
 class HIsaAdapter;
+class PIpAddress;
 
 class TokenCmd : public StringToken {
 public:
@@ -48,6 +49,11 @@ public:
     bool outResult(e_MHBA_RETURN status, void const* data, unsigned long size, std::string& err) const;
     bool outScript(FILE* stream, std::string const& text, std::string& err) const;
     bool displayIpAddress(HIsaAdapter* adapter, std::string& err) const;
+
+    // The -agent address, and a test that the agent answers when one is given.
+    bool getIpAddressFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, PIpAddress& address, bool& found,
+                                                    std::string& err);
+    e_MHBA_RETURN testAgentConnectionIfAny(PIpAddress& agent, std::string& err);
 
     // Help texts.
     std::string ugOsPrompt() const;
