@@ -11,12 +11,6 @@ constexpr size_t kLinuxHostOffset = 24;
 constexpr size_t kWindowsHostOffset = 568;
 
 template <size_t N>
-std::string fieldText(const char (&field)[N])
-{
-    return PBase::charFieldToText(field, N);
-}
-
-template <size_t N>
 bool isEmptyField(const char (&field)[N])
 {
     return field[0] == '\0';
@@ -58,26 +52,26 @@ void KLinuxHostInfo::init()
 
 std::string KLinuxHostInfo::displayText() const
 {
-    return "        System name:         " + fieldText(systemName) + "\n" +
-           "        Node name:           " + fieldText(nodeName) + "\n" +
-           "        OS version:          " + fieldText(osVersion) + "\n" +
-           "        OS build date:       " + fieldText(osBuildDate) + "\n" +
-           "        Machine name:        " + fieldText(machineName) + "\n" +
-           "        Domain name:         " + fieldText(domainName) + "\n" +
-           "        Driver version:      " + fieldText(driverVersion) + "\n";
+    return "        System name:         " + charFieldToText(systemName) + "\n" +
+           "        Node name:           " + charFieldToText(nodeName) + "\n" +
+           "        OS version:          " + charFieldToText(osVersion) + "\n" +
+           "        OS build date:       " + charFieldToText(osBuildDate) + "\n" +
+           "        Machine name:        " + charFieldToText(machineName) + "\n" +
+           "        Domain name:         " + charFieldToText(domainName) + "\n" +
+           "        Driver version:      " + charFieldToText(driverVersion) + "\n";
 }
 
 // A host that calls itself "localhost" in no domain is told apart by its
 // kernel version and build date.
 std::string KLinuxHostInfo::hostLabelText(const std::string&) const
 {
-    if (fieldText(nodeName) != "localhost") {
-        return fieldText(nodeName);
+    if (charFieldToText(nodeName) != "localhost") {
+        return charFieldToText(nodeName);
     }
-    if (fieldText(domainName) != "(none)") {
-        return fieldText(domainName);
+    if (charFieldToText(domainName) != "(none)") {
+        return charFieldToText(domainName);
     }
-    return "_" + fieldText(osVersion) + "_" + fieldText(osBuildDate);
+    return "_" + charFieldToText(osVersion) + "_" + charFieldToText(osBuildDate);
 }
 
 // ---- KWindowsHostInfo -------------------------------------------------------
@@ -114,17 +108,17 @@ void KWindowsHostInfo::init()
 
 std::string KWindowsHostInfo::displayText() const
 {
-    return "        System Info:     " + fieldText(systemInfo) + "\n        Host name:      " + fieldText(hostName) +
-           "\n        Driver version: " + fieldText(driverVersion) + "\n";
+    return "        System Info:     " + charFieldToText(systemInfo) + "\n        Host name:      " + charFieldToText(hostName) +
+           "\n        Driver version: " + charFieldToText(driverVersion) + "\n";
 }
 
 std::string KWindowsHostInfo::hostLabelText(const std::string&) const
 {
     if (!isEmptyField(hostName)) {
-        return fieldText(hostName);
+        return charFieldToText(hostName);
     }
     if (!isEmptyField(systemInfo)) {
-        return fieldText(systemInfo);
+        return charFieldToText(systemInfo);
     }
     return "Windows host";
 }

@@ -8,12 +8,6 @@ namespace {
 constexpr size_t kFirstFieldOffset = 20;
 constexpr size_t kHostInfoOffset = 648;
 
-template <size_t N>
-std::string fieldText(const char (&field)[N])
-{
-    return PBase::charFieldToText(field, N);
-}
-
 void endWithNewline(std::string& text)
 {
     if (text.empty() || text.back() != '\n') {
@@ -153,10 +147,10 @@ std::string KIsaAdapterInfo::offlineText() const
 std::string KIsaAdapterInfo::productText() const
 {
     std::string text;
-    appendIfSet(text, "\n        Product Name        = ", fieldText(productName));
-    appendIfSet(text, "\n        Symbolic Name       = ", fieldText(symbolicName));
-    appendIfSet(text, "\n        Serial Number       = ", fieldText(serialNumber));
-    appendIfSet(text, "\n        SW Version          = ", fieldText(swVersion));
+    appendIfSet(text, "\n        Product Name        = ", charFieldToText(productName));
+    appendIfSet(text, "\n        Symbolic Name       = ", charFieldToText(symbolicName));
+    appendIfSet(text, "\n        Serial Number       = ", charFieldToText(serialNumber));
+    appendIfSet(text, "\n        SW Version          = ", charFieldToText(swVersion));
     return text;
 }
 
@@ -179,12 +173,12 @@ std::string KIsaAdapterInfo::displayText() const
     }
     text += productText();
     endWithNewline(text);
-    text += "        u-boot BIOS Version = " + fieldText(ubootBiosVersion);
+    text += "        u-boot BIOS Version = " + charFieldToText(ubootBiosVersion);
     endWithNewline(text);
-    text += "        HW Version          = " + fieldText(hwVersion);
+    text += "        HW Version          = " + charFieldToText(hwVersion);
     endWithNewline(text);
-    text += "        BIOS Version        = " + fieldText(biosVersion);
+    text += "        BIOS Version        = " + charFieldToText(biosVersion);
     endWithNewline(text);
-    text += "        EFI Version         = " + fieldText(efiVersion) + "\n";
+    text += "        EFI Version         = " + charFieldToText(efiVersion) + "\n";
     return text + hostInfo.displayText();
 }

@@ -194,6 +194,11 @@ public:
     static std::string uCharPtrToJavaString(unsigned char* text);
     // A fixed character field as text: up to its zero, never past its end.
     static std::string charFieldToText(const char* field, unsigned long size);
+    template <size_t N>
+    static std::string charFieldToText(const char (&field)[N])
+    {
+        return charFieldToText(field, N);
+    }
     // Fills a fixed character field, cut to keep its terminating zero.
     static void textToCharField(char* field, unsigned long size, const std::string& text);
     static std::string wwulnToText(const unsigned char* data, int length,
