@@ -1,0 +1,13 @@
+// Large synthetic SANs for benchmarks and load tests.
+#pragma once
+
+#include "model/San.h"
+
+namespace sim {
+
+// `adapters` local adapters (the first two in a cluster) that all see
+// `targets` FC targets; LUNs are spread over the targets so that there are
+// `lunPaths` paths in all, every fourth LUN reached through two targets.
+San generateSan(int adapters, int lunPaths, int targets = 16);
+
+} // namespace sim

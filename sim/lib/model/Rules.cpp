@@ -1,0 +1,807 @@
+#include "model/Rules.h"
+
+#include "model/Codes.h"
+#include "model/Scenario.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace sim::rules {
+
+namespace {
+
+constexpr u64 MiB = 1024ull * 1024;
+constexpr u32 kPollsToFinish = 3;       // a pinned clock still ends a flush or a restart
+constexpr long long kRestartSeconds = 25;
+constexpr long long kPurgeSeconds = 30;
+
+bool hasCapability(const Adapter& a, const std::string& name)
+{
+    return std::find(a.capabilities.begin(), a.capabilities.end(), name) != a.capabilities.end();
+}
+
+// The adapter that receives a request must exist and answer.
+int reachable(San& san, u64 adapter, long long now, Adapter*& out)
+{
+    out = findAdapter(san, adapter);
+    if (!out)
+        return code::AdapterNotFound;
+    return adapterAnswers(*out, now) ? code::Ok : code::AdapterNotResponding;
+}
+
+// Runs `change` on the adapter when it answers; otherwise its refusal.
+template <class Change>
+int onAdapter(San& san, u64 adapter, long long now, Change&& change)
+{
+    Adapter* a;
+    int rc = reachable(san, adapter, now, a);
+    return rc == code::Ok ? change(*a) : rc;
+}
+
+// A LUN request must name a path that the adapter sees.
+int visibleLun(San& san, u64 adapter, const PathRef& path, long long now, Adapter*& a, Lun*& lun)
+{
+    int rc = reachable(san, adapter, now, a);
+    if (rc != code::Ok)
+        return rc;
+    lun = findLun(san, path);
+    if (!lun || !adapterSeesPath(san, *a, path))
+        return code::ObjectNotFound;
+    return code::Ok;
+}
+
+// The LUN must be cached on this very adapter.
+int ownCachedLun(San& san, u64 adapter, const PathRef& path, long long now, Lun*& lun)
+{
+    Adapter* a;
+    int rc = visibleLun(san, adapter, path, now, a, lun);
+    if (rc != code::Ok)
+        return rc;
+    switch (cacheStateFor(*lun, adapter)) {
+    case 1: return code::NotCached;
+    case 3: return code::CachedElsewhere;
+    default: return code::Ok;
+    }
+}
+
+int checkWindows(const CacheRequest& req)
+{
+    if (req.minRead > req.maxRead || req.minWrite > req.maxWrite)
+        return code::InvalidArgument;
+    return code::Ok;
+}
+
+int checkMirror(San& san, u64 adapter, u64 mirror, long long now)
+{
+    if (mirror == 0)
+        return code::Ok;
+    if (mirror == adapter)
+        return code::InvalidArgument;
+    Adapter* m = findAdapter(san, mirror);
+    if (!m)
+        return code::ObjectNotFound;
+    return adapterAnswers(*m, now) ? code::Ok : code::AdapterNotResponding;
+}
+
+void applyMirror(CacheSettings& c, u64 mirror)
+{
+    c.mirrored = mirror != 0;
+    c.mirrorAdapter.value = mirror;
+    c.mirrorState = mirror ? 0x0101 : 0;    // configured, in synchrony
+    c.mirrorFlag = mirror ? 4 : 0;
+}
+
+u32 orDefault(u32 value, u32 fallback) { return value ? value : fallback; }
+
+void applyWindows(CacheSettings& c, const CacheRequest& req)
+{
+    c.maxCacheBytes = static_cast<u64>(req.maxCacheMb) * MiB;
+    c.minRead = orDefault(req.minRead, kDefaultMinRead);
+    c.maxRead = orDefault(req.maxRead, kDefaultMaxRead);
+    c.minWrite = orDefault(req.minWrite, kDefaultMinWrite);
+    c.maxWrite = orDefault(req.maxWrite, kDefaultMaxWrite);
+}
+
+void stopCaching(Lun& lun)
+{
+    lun.cached = false;
+    lun.cache = CacheSettings{};
+}
+
+int startCaching(San& san, Adapter& a, Lun& lun, const CacheRequest& req, long long now)
+{
+    if (!isCacheableLun(lun))
+        return code::NotSanDataLun;
+    if (req.mode < 1 || req.mode > 5 || req.profile < 0 || req.profile > 6)
+        return code::InvalidArgument;
+    if ((req.mode == 2 || req.mode == 5) && !hasCapability(a, "WRITE_BACK_CACHE"))
+        return code::NotSupported;
+    if ((req.mode == 1 || req.mode == 4) && !hasCapability(a, "WRITE_THROUGH_CACHE"))
+        return code::NotSupported;
+    if (a.cachePoolBytes == 0)
+        return code::NotEnoughStorage;
+    int rc = checkWindows(req);
+    if (rc == code::Ok)
+        rc = checkMirror(san, a.id.value, req.mirrorAdapter, now);
+    if (rc != code::Ok)
+        return rc;
+    lun.cached = true;
+    lun.cache = CacheSettings{};
+    lun.cache.adapter = a.id;
+    lun.cache.mode = req.mode;
+    lun.cache.profile = req.profile;
+    lun.cache.since = now;
+    applyWindows(lun.cache, req);
+    applyMirror(lun.cache, req.mirrorAdapter);
+    return code::Ok;
+}
+
+int stopOrPurge(San& san, u64 adapter, Lun& lun, int mode, long long now)
+{
+    (void)san;
+    if (!isCacheableLun(lun))
+        return code::NotSanDataLun;
+    switch (cacheStateFor(lun, adapter)) {
+    case 1: return code::NotCached;
+    case 3: return code::CachedElsewhere;
+    default: break;
+    }
+    if (mode == 6) {
+        lun.cache.mode = 6;
+        lun.cache.dirtyBytes = 0;
+        lun.cache.lockedRanges.clear();
+        lun.cache.since = now;
+        return code::Ok;
+    }
+    if (!lun.online)
+        return code::LunGone;       // its dirty data has nowhere to go
+    stopCaching(lun);               // dirty data is written back on the way out
+    return code::Ok;
+}
+
+u64 flushSeconds(const CacheSettings& c)
+{
+    return std::max<u64>(1, c.dirtyBytes / (256 * MiB));
+}
+
+void finishFlush(CacheSettings& c)
+{
+    c.flushStarted = 0;
+    c.flushPolls = 0;
+    c.dirtyBytes = 0;
+}
+
+bool isOwner(const Lun& lun, u64 adapter)
+{
+    return lun.local && lun.localInfo.owner.value == adapter;
+}
+
+Drive* findDrive(Adapter& a, const std::string& id)
+{
+    for (Drive& d : a.drives)
+        if (d.id == id || d.serial == id)
+            return &d;
+    return nullptr;
+}
+
+std::string internalTargetName(u64 adapter)
+{
+    return "internal-" + adapterIdText(adapter);
+}
+
+// Data LUNs of an adapter are presented through its own internal target.
+std::string ensureInternalTarget(San& san, const Adapter& a)
+{
+    for (const Target& t : san.targets)
+        if (t.internal && t.seenBy.size() == 1 && t.seenBy[0] == a.id)
+            return t.name;
+    Target t;
+    t.name = internalTargetName(a.id.value);
+    t.internal = true;
+    t.seenBy = {a.id};
+    t.wwpn = a.ports.empty() ? adapterIdText(a.id.value) : a.ports[0].wwpn;
+    t.wwnn = a.ports.empty() ? adapterIdText(a.id.value) : a.ports[0].wwnn;
+    t.ports = {1, 2};
+    san.targets.push_back(t);
+    return t.name;
+}
+
+u32 nextFreeLunNumber(const San& san, const std::string& target)
+{
+    u32 n = 0;
+    for (const Lun& l : san.luns)
+        for (const LunPath& p : l.paths)
+            if (p.target == target && p.lun >= n)
+                n = p.lun + 1;
+    return n;
+}
+
+u64 freeStorage(const San& san, const Adapter& a)
+{
+    u64 used = a.cachePoolBytes + dataLunBytes(san, a.id.value);
+    u64 configured = configuredBytes(a);
+    return configured > used ? configured - used : 0;
+}
+
+int checkLocalMirror(San& san, u64 adapter, int mirrorType, u64 mirrorAdapter, long long now)
+{
+    if (mirrorType != 1 && mirrorType != 2)
+        return code::InvalidArgument;
+    if (mirrorType == 1)
+        return code::Ok;
+    int rc = checkMirror(san, adapter, mirrorAdapter, now);
+    if (rc != code::Ok || mirrorAdapter == 0)
+        return rc == code::Ok ? code::InvalidArgument : rc;
+    return hasCapability(*findAdapter(san, mirrorAdapter), "LOCAL_SSD_DATA_LUN") ? code::Ok : code::NotSupported;
+}
+
+Cluster* primaryCluster(San& san, u64 adapter, const std::string& id, int& rc)
+{
+    Cluster* c = findCluster(san, id);
+    if (!c) {
+        rc = code::ObjectNotFound;
+        return nullptr;
+    }
+    if (c->primary.value != adapter) {
+        rc = code::NotClusterPrimary;
+        return nullptr;
+    }
+    rc = code::Ok;
+    return c;
+}
+
+} // namespace
+
+void settle(San& san, long long now)
+{
+    for (Adapter& a : san.adapters) {
+        if (a.restartUntil && now >= a.restartUntil) {
+            a.restartUntil = 0;
+            a.restartPolls = 0;
+        }
+    }
+    for (Lun& l : san.luns) {
+        if (!l.cached)
+            continue;
+        CacheSettings& c = l.cache;
+        if (c.flushStarted && now >= c.flushStarted + static_cast<long long>(flushSeconds(c)))
+            finishFlush(c);
+        if (c.mode == 6 && now >= c.since + kPurgeSeconds)
+            stopCaching(l);
+    }
+}
+
+int enableCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, long long now)
+{
+    Adapter* a;
+    Lun* lun;
+    int rc = visibleLun(san, adapter, path, now, a, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (req.mode == 0 || req.mode == 6)
+        return stopOrPurge(san, adapter, *lun, req.mode, now);
+    if (!lun->online)
+        return code::LunGone;
+    switch (cacheStateFor(*lun, adapter)) {
+    case 2: return code::AlreadyCached;
+    case 3: return code::CachedElsewhere;
+    default: break;
+    }
+    return startCaching(san, *a, *lun, req, now);
+}
+
+int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, bool useDefaults,
+                long long now)
+{
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    if (rc != code::Ok)
+        return rc;
+    Adapter* a = findAdapter(san, adapter);
+    CacheSettings& c = lun->cache;
+    int mode = req.mode == 0 ? c.mode : req.mode;   // no mode keeps the present one
+    if (mode < 1 || mode > 6 || req.profile < 0 || req.profile > 6)
+        return code::InvalidArgument;
+    if (mode != c.mode && (mode == 2 || mode == 5) && !hasCapability(*a, "WRITE_BACK_CACHE"))
+        return code::NotSupported;
+    if (useDefaults) {
+        c.minRead = kDefaultMinRead;
+        c.maxRead = kDefaultMaxRead;
+        c.minWrite = kDefaultMinWrite;
+        c.maxWrite = kDefaultMaxWrite;
+        c.maxCacheBytes = 0;
+        return code::Ok;
+    }
+    if ((rc = checkWindows(req)) != code::Ok || (rc = checkMirror(san, adapter, req.mirrorAdapter, now)) != code::Ok)
+        return rc;
+    c.mode = mode;
+    c.profile = req.profile;
+    applyWindows(c, req);
+    if (req.mirrorAdapter != c.mirrorAdapter.value || !c.mirrored)
+        applyMirror(c, req.mirrorAdapter);
+    if (mode == 1 || mode == 3 || mode == 4)
+        c.dirtyBytes = 0;           // leaving write-back writes the dirty data out
+    return code::Ok;
+}
+
+int disableCacheByWwuln(San& san, u64 adapter, const std::string& wwuln, bool viaClusterPrimary, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        Lun* lun = findLunByWwuln(san, wwuln);
+        if (!lun)
+            return code::ObjectNotFound;
+        if (!lun->cached)
+            return code::NotCached;
+        if (viaClusterPrimary) {
+            // The primary may release a LUN cached anywhere in its cluster.
+            const Cluster* c = clusterOf(san, adapter);
+            const Cluster* holder = clusterOf(san, lun->cache.adapter.value);
+            if (!c || c != holder || c->primary.value != adapter)
+                return c && c == holder ? code::NotClusterPrimary : code::CachedElsewhere;
+        } else if (lun->cache.adapter.value != adapter) {
+            return code::CachedElsewhere;
+        }
+        stopCaching(*lun);
+        return code::Ok;
+    });
+}
+
+int startFlush(San& san, u64 adapter, const PathRef& path, long long now)
+{
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (!lun->online)
+        return code::LunGone;
+    if (!lun->cache.flushStarted) {
+        lun->cache.flushStarted = now;
+        lun->cache.flushPolls = 0;
+    }
+    return code::Ok;
+}
+
+int flushProgress(San& san, u64 adapter, const PathRef& path, bool& inProgress, long long now)
+{
+    inProgress = false;
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    if (rc != code::Ok)
+        return rc;
+    CacheSettings& c = lun->cache;
+    if (!c.flushStarted)
+        return code::Ok;
+    ++c.flushPolls;
+    if (c.flushPolls >= kPollsToFinish || now >= c.flushStarted + static_cast<long long>(flushSeconds(c)))
+        finishFlush(c);
+    inProgress = c.flushStarted != 0;
+    return code::Ok;
+}
+
+int lockRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 size, long long now)
+{
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    if (rc != code::Ok)
+        return rc;
+    u64 blocks = lun->sizeBytes / 512;
+    if (size == 0 || size > 0xFFFFFFFFull || start >= blocks || size > blocks - start)
+        return code::InvalidArgument;
+    auto& ranges = lun->cache.lockedRanges;
+    LockedRange r{start, static_cast<u32>(size)};
+    if (std::find(ranges.begin(), ranges.end(), r) != ranges.end())
+        return code::Ok;
+    if (ranges.size() >= 16)
+        return code::TooManyLockedRanges;
+    ranges.push_back(r);
+    return code::Ok;
+}
+
+int unlockRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 size, long long now)
+{
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    if (rc != code::Ok)
+        return rc;
+    auto& ranges = lun->cache.lockedRanges;
+    auto it = std::find(ranges.begin(), ranges.end(), LockedRange{start, static_cast<u32>(size)});
+    if (size > 0xFFFFFFFFull || it == ranges.end())
+        return code::ObjectNotFound;
+    ranges.erase(it);
+    return code::Ok;
+}
+
+int invalidateRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 end, long long now)
+{
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (end < start)
+        return code::InvalidArgument;
+    if (start == 0 && end == 0)
+        lun->cache.dirtyBytes = 0;  // the whole LUN
+    return code::Ok;
+}
+
+int clearReservation(San& san, u64 adapter, const PathRef& path, long long now)
+{
+    Adapter* a;
+    Lun* lun;
+    int rc = visibleLun(san, adapter, path, now, a, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (!lun->online)
+        return code::LunGone;
+    lun->reservation = Reservation{};
+    return code::Ok;
+}
+
+int createLun(San& san, u64 adapter, u64 sizeBytes, const std::string& name, int mirrorType, u64 mirrorAdapter,
+              std::string& newWwuln, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (!hasCapability(a, "LOCAL_SSD_DATA_LUN"))
+            return code::NotSupported;
+        if (sizeBytes == 0 || name.size() > 128)
+            return code::InvalidArgument;
+        int rc = checkLocalMirror(san, adapter, mirrorType, mirrorAdapter, now);
+        if (rc != code::Ok)
+            return rc;
+        if (sizeBytes > freeStorage(san, a))
+            return code::NotEnoughStorage;
+        Lun lun;
+        char wwuln[40];
+        std::snprintf(wwuln, sizeof wwuln, "%016llX%016llX", static_cast<unsigned long long>(adapter),
+                      static_cast<unsigned long long>(san.nextLocalLun));
+        lun.wwuln = wwuln;
+        lun.serial = std::string(wwuln).substr(16);
+        lun.vendor = "ZEK";
+        lun.product = "LOCAL-SSD-LUN";
+        lun.sizeBytes = sizeBytes;
+        lun.local = true;
+        lun.localInfo.owner.value = adapter;
+        lun.localInfo.name = name;
+        lun.localInfo.mirrorType = mirrorType;
+        lun.localInfo.mirrorPeer.value = mirrorType == 2 ? mirrorAdapter : 0;
+        std::string target = ensureInternalTarget(san, a);
+        lun.paths = {LunPath{target, nextFreeLunNumber(san, target), 1, 3}};
+        ++san.nextLocalLun;
+        san.luns.push_back(lun);
+        newWwuln = lun.wwuln;
+        return code::Ok;
+    });
+}
+
+int modifyLun(San& san, u64 adapter, const PathRef& path, u64 sizeBytes, const std::string& name, long long now)
+{
+    Adapter* a;
+    Lun* lun;
+    int rc = visibleLun(san, adapter, path, now, a, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (!isOwner(*lun, adapter))
+        return code::InvalidArgument;
+    if (sizeBytes != 0 && sizeBytes < lun->sizeBytes)
+        return code::InvalidArgument;   // LUNs only grow
+    if (sizeBytes > lun->sizeBytes && sizeBytes - lun->sizeBytes > freeStorage(san, *a))
+        return code::NotEnoughStorage;
+    if (name.size() > 128)
+        return code::InvalidArgument;
+    if (sizeBytes)
+        lun->sizeBytes = sizeBytes;
+    if (!name.empty())
+        lun->localInfo.name = name;
+    return code::Ok;
+}
+
+int setLunMirror(San& san, u64 adapter, const PathRef& path, int mirrorType, u64 mirrorAdapter, long long now)
+{
+    Adapter* a;
+    Lun* lun;
+    int rc = visibleLun(san, adapter, path, now, a, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (!isOwner(*lun, adapter))
+        return code::InvalidArgument;
+    if ((rc = checkLocalMirror(san, adapter, mirrorType, mirrorAdapter, now)) != code::Ok)
+        return rc;
+    lun->localInfo.mirrorType = mirrorType;
+    lun->localInfo.mirrorPeer.value = mirrorType == 2 ? mirrorAdapter : 0;
+    return code::Ok;
+}
+
+int removeLun(San& san, u64 adapter, const PathRef& path, std::string& text, long long now)
+{
+    Adapter* a;
+    Lun* lun;
+    int rc = visibleLun(san, adapter, path, now, a, lun);
+    if (rc != code::Ok)
+        return rc;
+    if (lun->local && !isOwner(*lun, adapter)) {
+        text = "The LUN belongs to adapter " + adapterIdText(lun->localInfo.owner.value);
+        return code::InvalidArgument;
+    }
+    if (!lun->local && lun->online) {
+        text = "Only adapter-local LUNs and SAN LUNs that are offline can be removed";
+        return code::InvalidArgument;
+    }
+    if (lun->cached && lun->cache.dirtyBytes) {
+        text = "The LUN still holds dirty cache data; purge the cache first";
+        return code::Failure;
+    }
+    san.luns.erase(san.luns.begin() + (lun - san.luns.data()));
+    return code::Ok;
+}
+
+int setPoolSize(San& san, u64 adapter, u32 megabytes, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        u64 wanted = static_cast<u64>(megabytes) * MiB;
+        u64 room = configuredBytes(a);
+        u64 data = dataLunBytes(san, adapter);
+        if (megabytes < 1024 || data > room || wanted > room - data)
+            return code::PoolSizeOutOfRange;
+        a.cachePoolBytes = wanted;
+        return code::Ok;
+    });
+}
+
+int removePool(San& san, u64 adapter, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        for (const Lun& l : san.luns)
+            if (l.cached && l.cache.adapter.value == adapter)
+                return code::PoolInUse;
+        a.cachePoolBytes = 0;
+        return code::Ok;
+    });
+}
+
+int addDriveToPool(San& san, u64 adapter, const std::string& drive, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        Drive* d = findDrive(a, drive);
+        if (!d)
+            return code::ObjectNotFound;
+        if (d->configured || !d->online || d->securityLocked)
+            return code::InvalidArgument;
+        d->configured = true;
+        return code::Ok;
+    });
+}
+
+int removeDriveFromPool(San& san, u64 adapter, const std::string& drive, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        Drive* d = findDrive(a, drive);
+        if (!d)
+            return code::ObjectNotFound;
+        if (!d->configured)
+            return code::InvalidArgument;
+        u64 needed = a.cachePoolBytes + dataLunBytes(san, adapter);
+        if (configuredBytes(a) - (d->online ? d->sizeBytes : 0) < needed)
+            return code::PoolSizeOutOfRange;
+        d->configured = false;
+        return code::Ok;
+    });
+}
+
+int createCluster(San& san, u64 adapter, u64 primary, u64 secondary, const std::string& id, int type, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        if (id.empty() || id.size() > 16 || primary == secondary || primary != adapter)
+            return code::InvalidArgument;
+        Adapter* s = findAdapter(san, secondary);
+        if (!s)
+            return code::ObjectNotFound;
+        if (!adapterAnswers(*s, now))
+            return code::AdapterNotResponding;
+        if (findCluster(san, id))
+            return code::InvalidArgument;
+        if (clusterOf(san, primary) || clusterOf(san, secondary))
+            return code::AlreadyClusterMember;
+        Cluster c;
+        c.id = id;
+        c.hostClusterType = type;
+        c.primary.value = primary;
+        c.secondary.value = secondary;
+        c.members = {c.primary, c.secondary};
+        san.clusters.push_back(c);
+        return code::Ok;
+    });
+}
+
+int destroyCluster(San& san, u64 adapter, const std::string& id, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        int rc;
+        Cluster* c = primaryCluster(san, adapter, id, rc);
+        if (!c)
+            return rc;
+        san.clusters.erase(san.clusters.begin() + (c - san.clusters.data()));
+        return code::Ok;
+    });
+}
+
+int addClusterMember(San& san, u64 adapter, u64 member, const std::string& id, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        int rc;
+        Cluster* c = primaryCluster(san, adapter, id, rc);
+        if (!c)
+            return rc;
+        Adapter* m = findAdapter(san, member);
+        if (!m)
+            return code::AdapterNotFound;
+        if (!adapterAnswers(*m, now))
+            return code::AdapterNotResponding;
+        if (clusterOf(san, member))
+            return code::AlreadyClusterMember;
+        c->members.push_back(m->id);
+        return code::Ok;
+    });
+}
+
+int removeClusterMember(San& san, u64 adapter, u64 member, const std::string& id, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        int rc;
+        Cluster* c = primaryCluster(san, adapter, id, rc);
+        if (!c)
+            return rc;
+        auto it = std::find(c->members.begin(), c->members.end(), AdapterId{member});
+        if (it == c->members.end())
+            return code::ObjectNotFound;
+        if (member == c->primary.value || member == c->secondary.value)
+            return code::InvalidArgument;   // the roles leave with the cluster
+        c->members.erase(it);
+        return code::Ok;
+    });
+}
+
+int setSymbolicName(San& san, u64 adapter, const std::string& name, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (name.size() > 63)
+            return code::InvalidArgument;
+        a.symbolicName = name;
+        return code::Ok;
+    });
+}
+
+int setPassword(San& san, u64 adapter, const std::string& oldPassword, const std::string& newPassword, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (oldPassword != a.password)
+            return code::PasswordWrong;
+        if (newPassword.empty() || newPassword.size() > 32)
+            return code::InvalidArgument;
+        a.password = newPassword;
+        return code::Ok;
+    });
+}
+
+int factoryReset(San& san, u64 adapter, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        a.symbolicName.clear();
+        a.password = "zek";
+        a.autoCluster = false;
+        for (Port& p : a.ports) {
+            p.programmedLinkRate = 0;
+            p.connectionOption = 2;
+            p.frameSize = 2048;
+            p.executionThrottle = 64;
+        }
+        a.needsRestart = true;
+        appendLog(a, now, 3, "adapter", "Persistent settings reset to factory defaults");
+        return code::OkRestartRequired;
+    });
+}
+
+int restart(San& san, u64 adapter, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        a.restartUntil = now + kRestartSeconds;
+        a.restartPolls = 0;
+        a.bootTime = now;
+        a.needsRestart = false;
+        appendLog(a, now, 5, "adapter", "Adapter restart requested");
+        return code::Ok;
+    });
+}
+
+int pollWhileRestarting(San& san, u64 adapter, long long now)
+{
+    Adapter* a = findAdapter(san, adapter);
+    if (!a)
+        return code::AdapterNotFound;
+    if (a->restartUntil && now < a->restartUntil && ++a->restartPolls >= kPollsToFinish) {
+        a->restartUntil = 0;
+        a->restartPolls = 0;
+    }
+    return adapterAnswers(*a, now) ? code::Ok : code::AdapterNotResponding;
+}
+
+int setPortEnabled(San& san, u64 adapter, u32 port, bool enable, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (port >= a.ports.size())
+            return code::InvalidArgument;
+        if (!enable && a.ports[port].fcipLink)
+            return code::PortHasFcipLink;
+        a.ports[port].enabled = enable;
+        return code::Ok;
+    });
+}
+
+int setBeacon(San& san, u64 adapter, u32 port, bool enable, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (port >= a.ports.size())
+            return code::InvalidArgument;
+        a.ports[port].beacon = enable;
+        return code::Ok;
+    });
+}
+
+int setTargetMaxOutstandingIo(San& san, u64 adapter, const std::string& target, u32 count, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        for (Target& t : san.targets)
+            if (t.name == target && adapterSeesTarget(san, a, t)) {
+                t.maxOutstandingIo = count;
+                return code::Ok;
+            }
+        return code::ObjectNotFound;
+    });
+}
+
+int clearStatistics(San& san, u64 adapter, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        a.statsClearedAt = now;
+        return code::Ok;
+    });
+}
+
+int clearLog(San& san, u64 adapter, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        a.log.clear();
+        return code::Ok;
+    });
+}
+
+void appendLog(Adapter& a, long long now, int severity, const std::string& source, const std::string& message)
+{
+    a.log.push_back({now, severity, source, message});
+    if (a.log.size() > 2000)
+        a.log.erase(a.log.begin());     // the adapter keeps a bounded log
+}
+
+bool hasFault(const San& san, u64 adapter, const std::string& operation)
+{
+    for (const Fault& f : san.faults)
+        if (f.adapter.value == adapter && (f.operation == operation || f.operation == "*"))
+            return true;
+    return false;
+}
+
+int takeFault(San& san, u64 adapter, const std::string& operation, int& firstError)
+{
+    firstError = 0;
+    for (auto it = san.faults.begin(); it != san.faults.end(); ++it) {
+        if (it->adapter.value != adapter || (it->operation != operation && it->operation != "*"))
+            continue;
+        int rc = it->code;
+        firstError = it->firstError;
+        if (it->once)
+            san.faults.erase(it);
+        return rc;
+    }
+    return code::Ok;
+}
+
+} // namespace sim::rules

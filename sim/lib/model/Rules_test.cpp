@@ -1,0 +1,236 @@
+#include "model/Rules.h"
+
+#include "model/Codes.h"
+#include "model/DefaultSan.h"
+
+#include <gtest/gtest.h>
+
+using namespace sim;
+
+namespace {
+
+constexpr u64 kDev0 = 0x2000001B32A10C00ull;
+constexpr u64 kDev1 = 0x2000001B32A10D00ull;
+constexpr u64 kSanOnly = 0x2000001B32A10E00ull;
+constexpr u64 kOffline = 0x2000001B32A10F00ull;
+constexpr long long kNow = 1700000000;
+
+class RulesTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        setenv("HBASIM_TIME", "1700000000", 1);
+        san = defaultSan();
+    }
+    San san;
+    PathRef mirrored{"array-a-spa", 0, 1};    // cached write-back on device 0
+    PathRef uncached{"array-a-spa", 1, 1};
+    PathRef peerCached{"array-b", 1, 1};       // cached on device 1
+    PathRef offline{"array-b", 3, 1};
+    PathRef controller{"array-a-spa", 31, 1};
+};
+
+rules::CacheRequest mode(int m)
+{
+    rules::CacheRequest r;
+    r.mode = m;
+    return r;
+}
+
+} // namespace
+
+TEST_F(RulesTest, CacheStateDependsOnTheViewingAdapter)
+{
+    const Lun* lun = findLun(san, mirrored);
+    ASSERT_NE(lun, nullptr);
+    EXPECT_EQ(cacheStateFor(*lun, kDev0), 2);
+    EXPECT_EQ(cacheStateFor(*lun, kDev1), 3);
+    EXPECT_EQ(cacheStateFor(*findLun(san, uncached), kDev0), 1);
+    EXPECT_EQ(mirrorStateFor(*lun, kDev0), 2);
+    EXPECT_EQ(mirrorStateFor(*lun, kDev1), 3);
+    EXPECT_EQ(mirrorStateFor(*lun, kSanOnly), 1);
+}
+
+TEST_F(RulesTest, EnableCacheOnUncachedLunSucceedsAndSetsDefaults)
+{
+    EXPECT_EQ(rules::enableCache(san, kDev0, uncached, mode(1), kNow), code::Ok);
+    const Lun* lun = findLun(san, uncached);
+    EXPECT_TRUE(lun->cached);
+    EXPECT_EQ(lun->cache.adapter.value, kDev0);
+    EXPECT_EQ(lun->cache.maxRead, rules::kDefaultMaxRead);
+    EXPECT_EQ(lun->cache.minWrite, rules::kDefaultMinWrite);
+}
+
+TEST_F(RulesTest, EnableTwiceGives1020AndFromPeerGives185)
+{
+    EXPECT_EQ(rules::enableCache(san, kDev0, mirrored, mode(2), kNow), code::AlreadyCached);
+    EXPECT_EQ(rules::enableCache(san, kDev0, peerCached, mode(1), kNow), code::CachedElsewhere);
+}
+
+TEST_F(RulesTest, ModifyOfUncachedGives1021)
+{
+    EXPECT_EQ(rules::modifyCache(san, kDev0, uncached, mode(1), false, kNow), code::NotCached);
+}
+
+TEST_F(RulesTest, MissingCapabilityGives1003)
+{
+    findAdapter(san, kDev1)->capabilities = {"WRITE_THROUGH_CACHE"};
+    EXPECT_EQ(rules::enableCache(san, kDev1, uncached, mode(2), kNow), code::NotSupported);
+    EXPECT_EQ(rules::enableCache(san, kDev1, uncached, mode(1), kNow), code::Ok);
+}
+
+TEST_F(RulesTest, DisableThroughModeZero)
+{
+    EXPECT_EQ(rules::enableCache(san, kDev1, mirrored, mode(0), kNow), code::CachedElsewhere);
+    EXPECT_EQ(rules::enableCache(san, kDev0, mirrored, mode(0), kNow), code::Ok);
+    EXPECT_FALSE(findLun(san, mirrored)->cached);
+    EXPECT_EQ(rules::enableCache(san, kDev0, mirrored, mode(0), kNow), code::NotCached);
+}
+
+TEST_F(RulesTest, DisableOfGoneLunGives116ButByWwulnWorks)
+{
+    Lun* lun = findLun(san, offline);
+    lun->cached = true;
+    lun->cache.adapter.value = kDev0;
+    EXPECT_EQ(rules::enableCache(san, kDev0, offline, mode(0), kNow), code::LunGone);
+    EXPECT_EQ(rules::disableCacheByWwuln(san, kDev0, lun->wwuln, false, kNow), code::Ok);
+    EXPECT_FALSE(findLun(san, offline)->cached);
+}
+
+TEST_F(RulesTest, ClusterPrimaryMayDisableItsSecondarysCache)
+{
+    const std::string wwuln = findLun(san, peerCached)->wwuln;
+    EXPECT_EQ(rules::disableCacheByWwuln(san, kDev0, wwuln, false, kNow), code::CachedElsewhere);
+    EXPECT_EQ(rules::disableCacheByWwuln(san, kDev1, wwuln, true, kNow), code::NotClusterPrimary);
+    EXPECT_EQ(rules::disableCacheByWwuln(san, kDev0, wwuln, true, kNow), code::Ok);
+}
+
+TEST_F(RulesTest, OnlyDirectAccessSanLunsAreCached)
+{
+    EXPECT_EQ(rules::enableCache(san, kDev0, controller, mode(1), kNow), code::NotSanDataLun);
+}
+
+TEST_F(RulesTest, OfflineAdapterDoesNotAnswer)
+{
+    EXPECT_EQ(rules::enableCache(san, kOffline, uncached, mode(1), kNow), code::AdapterNotResponding);
+}
+
+TEST_F(RulesTest, LockedRangesAreLimitedToSixteen)
+{
+    Lun* lun = findLun(san, mirrored);
+    lun->cache.lockedRanges.clear();
+    for (u64 i = 0; i < 16; ++i)
+        ASSERT_EQ(rules::lockRange(san, kDev0, mirrored, i * 100, 10, kNow), code::Ok);
+    EXPECT_EQ(rules::lockRange(san, kDev0, mirrored, 5000, 10, kNow), code::TooManyLockedRanges);
+    EXPECT_EQ(rules::unlockRange(san, kDev0, mirrored, 100, 10, kNow), code::Ok);
+    EXPECT_EQ(rules::unlockRange(san, kDev0, mirrored, 100, 10, kNow), code::ObjectNotFound);
+    EXPECT_EQ(rules::lockRange(san, kDev0, mirrored, 5000, 0, kNow), code::InvalidArgument);
+}
+
+TEST_F(RulesTest, FlushEndsAfterBoundedPollsUnderAPinnedClock)
+{
+    ASSERT_EQ(rules::startFlush(san, kDev0, mirrored, kNow), code::Ok);
+    bool inProgress = true;
+    int polls = 0;
+    while (inProgress && polls < 10) {
+        ASSERT_EQ(rules::flushProgress(san, kDev0, mirrored, inProgress, kNow), code::Ok);
+        ++polls;
+    }
+    EXPECT_FALSE(inProgress);
+    EXPECT_EQ(polls, 3);
+    EXPECT_EQ(findLun(san, mirrored)->cache.dirtyBytes, 0u);
+}
+
+TEST_F(RulesTest, RestartEndsAfterBoundedPolls)
+{
+    ASSERT_EQ(rules::restart(san, kDev0, kNow), code::Ok);
+    EXPECT_EQ(rules::pollWhileRestarting(san, kDev0, kNow), code::AdapterNotResponding);
+    EXPECT_EQ(rules::pollWhileRestarting(san, kDev0, kNow), code::AdapterNotResponding);
+    EXPECT_EQ(rules::pollWhileRestarting(san, kDev0, kNow), code::Ok);
+}
+
+TEST_F(RulesTest, PoolSizeOutOfRangeGives156)
+{
+    EXPECT_EQ(rules::setPoolSize(san, kDev0, 100u * 1024 * 1024, kNow), code::PoolSizeOutOfRange);
+    EXPECT_EQ(rules::setPoolSize(san, kDev0, 512, kNow), code::PoolSizeOutOfRange);
+    EXPECT_EQ(rules::setPoolSize(san, kDev0, 100 * 1024, kNow), code::Ok);
+}
+
+TEST_F(RulesTest, CreateLunNeedsCapabilityAndStorage)
+{
+    std::string wwuln;
+    EXPECT_EQ(rules::createLun(san, kDev1, 1ull << 30, "x", 1, 0, wwuln, kNow), code::NotSupported);
+    EXPECT_EQ(rules::createLun(san, kDev0, 1ull << 50, "x", 1, 0, wwuln, kNow), code::NotEnoughStorage);
+    ASSERT_EQ(rules::createLun(san, kDev0, 1ull << 30, "new", 1, 0, wwuln, kNow), code::Ok);
+    Lun* lun = findLunByWwuln(san, wwuln);
+    ASSERT_NE(lun, nullptr);
+    EXPECT_TRUE(lun->local);
+    std::string text;
+    EXPECT_EQ(rules::removeLun(san, kDev0, PathRef{lun->paths[0].target, lun->paths[0].lun, 1}, text, kNow),
+              code::Ok);
+    EXPECT_EQ(findLunByWwuln(san, wwuln), nullptr);
+}
+
+TEST_F(RulesTest, OnlineSanLunCannotBeRemoved)
+{
+    std::string text;
+    EXPECT_EQ(rules::removeLun(san, kDev0, uncached, text, kNow), code::InvalidArgument);
+    EXPECT_FALSE(text.empty());
+}
+
+TEST_F(RulesTest, PortWithFcipLinkCannotBeDisabled)
+{
+    EXPECT_EQ(rules::setPortEnabled(san, kDev0, 1, false, kNow), code::PortHasFcipLink);
+    EXPECT_EQ(rules::setPortEnabled(san, kDev0, 0, false, kNow), code::Ok);
+    EXPECT_EQ(rules::setPortEnabled(san, kDev0, 7, false, kNow), code::InvalidArgument);
+}
+
+TEST_F(RulesTest, DisabledPortHidesTargetsFoundOnlyThere)
+{
+    const Adapter* a = findAdapter(san, kDev1);
+    const Target* spb = findTarget(san, "array-a-spb");
+    EXPECT_TRUE(adapterSeesTarget(san, *a, *spb));
+    ASSERT_EQ(rules::setPortEnabled(san, kDev1, 1, false, kNow), code::Ok);
+    EXPECT_FALSE(adapterSeesTarget(san, *a, *spb));
+}
+
+TEST_F(RulesTest, ClusterMembershipRules)
+{
+    EXPECT_EQ(rules::createCluster(san, kSanOnly, kSanOnly, kDev0, "c2", 1, kNow), code::AlreadyClusterMember);
+    EXPECT_EQ(rules::addClusterMember(san, kDev1, kSanOnly, "prodcluster", kNow), code::NotClusterPrimary);
+    EXPECT_EQ(rules::addClusterMember(san, kDev0, kSanOnly, "nosuch", kNow), code::ObjectNotFound);
+    EXPECT_EQ(rules::addClusterMember(san, kDev0, kSanOnly, "prodcluster", kNow), code::Ok);
+    EXPECT_EQ(rules::removeClusterMember(san, kDev0, kDev1, "prodcluster", kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::removeClusterMember(san, kDev0, kSanOnly, "prodcluster", kNow), code::Ok);
+    EXPECT_EQ(rules::destroyCluster(san, kDev0, "prodcluster", kNow), code::Ok);
+    EXPECT_TRUE(san.clusters.empty());
+}
+
+TEST_F(RulesTest, OnceFaultIsConsumedAlwaysFaultStays)
+{
+    san.faults.push_back({{kDev0}, "enableCache", 1000, true, 0});
+    san.faults.push_back({{kDev1}, "*", 1206, false, 0});
+    int inner = 0;
+    EXPECT_EQ(rules::takeFault(san, kDev0, "enableCache", inner), 1000);
+    EXPECT_EQ(rules::takeFault(san, kDev0, "enableCache", inner), 0);
+    EXPECT_EQ(rules::takeFault(san, kDev1, "getLuns", inner), 1206);
+    EXPECT_EQ(rules::takeFault(san, kDev1, "getLuns", inner), 1206);
+}
+
+TEST_F(RulesTest, PasswordMustMatch)
+{
+    EXPECT_EQ(rules::setPassword(san, kDev0, "wrong", "new", kNow), code::PasswordWrong);
+    EXPECT_EQ(rules::setPassword(san, kDev0, "zek", "new", kNow), code::Ok);
+    EXPECT_EQ(findAdapter(san, kDev0)->password, "new");
+}
+
+TEST(CodesTest, TextsAndFailureRule)
+{
+    EXPECT_EQ(code::text(185), "The LUN is cached on another adapter");
+    EXPECT_EQ(code::text(4242), "Unknown return code 4242");
+    EXPECT_FALSE(code::isFailure(0));
+    EXPECT_FALSE(code::isFailure(1));
+    EXPECT_FALSE(code::isFailure(2));
+    EXPECT_TRUE(code::isFailure(3));
+    EXPECT_TRUE(code::isFailure(1000));
+}

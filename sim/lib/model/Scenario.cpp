@@ -1,0 +1,262 @@
+#include "model/Scenario.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cinttypes>
+#include <cstdio>
+#include <set>
+
+namespace sim {
+
+std::string adapterIdText(u64 id)
+{
+    char buf[24];
+    std::snprintf(buf, sizeof buf, "%" PRIX64, id);
+    return buf;
+}
+
+bool parseAdapterId(const std::string& text, u64& out)
+{
+    std::string digits = text;
+    if (digits.size() > 2 && digits[0] == '0' && (digits[1] == 'x' || digits[1] == 'X'))
+        digits = digits.substr(2);
+    if (digits.empty() || digits.size() > 16)
+        return false;
+    u64 value = 0;
+    for (char c : digits) {
+        int d;
+        if (c >= '0' && c <= '9') d = c - '0';
+        else if (c >= 'a' && c <= 'f') d = c - 'a' + 10;
+        else if (c >= 'A' && c <= 'F') d = c - 'A' + 10;
+        else return false;
+        value = value * 16 + static_cast<u64>(d);
+    }
+    out = value;
+    return true;
+}
+
+void to_json(nlohmann::json& j, const AdapterId& id) { j = adapterIdText(id.value); }
+
+void from_json(const nlohmann::json& j, AdapterId& id)
+{
+    if (j.is_number_unsigned()) {
+        id.value = j.get<u64>();
+        return;
+    }
+    if (!j.is_string() || !parseAdapterId(j.get<std::string>(), id.value))
+        throw std::invalid_argument("an adapter id must be up to 16 hexadecimal digits, not " + j.dump());
+}
+
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Host, agent, hostType, systemName, nodeName, osVersion,
+    osBuildDate, machineName, domainName, driverVersion, online, agentVersion)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Sfp, vendorName, serialNumber, driverStatus, temperatureC,
+    voltage, txBiasMa, txPowerMw, rxPowerMw)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Port, enabled, online, fcMode, linkRate, programmedLinkRate,
+    wwnn, wwpn, portId, firmwareRevision, frameSize, sfpState, executionThrottle, connectionMode,
+    connectionOption, fcipLink, beacon, sfp)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(SmartAttribute, id, name, value, worst, threshold, raw, displayType)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Drive, id, vendor, product, revision, serial, sizeBytes,
+    configured, online, pcieSsd, securityLocked, identityConflict, external, smartStatus, smart)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LogRecord, time, severity, source, message)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Health, temperatureFront, temperatureRear, temperatureCpu,
+    temperatureNvdimm, temperatureFcChip, driversLoadedMask, errorMask, dramEccSingleBitErrors, failedPostTest)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Nvdimm, present, firmwareVersion, serialNumber, partNumber,
+    temperature, status, superCap, superCapCharged)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Fault, adapter, operation, code, once, firstError)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Adapter, id, host, device, viaDevice, state, productName,
+    symbolicName, serialNumber, hwVersion, swVersion, ubootVersion, biosVersion, efiVersion, capabilities,
+    password, autoCluster, ports, drives, cachePoolBytes, health, nvdimm, files, log, bootTime, restartUntil, restartPolls,
+    statsClearedAt, needsRestart, memoryScale)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Cluster, id, hostClusterType, primary, secondary, members)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Target, name, protocol, wwpn, wwnn, portId, iscsiName, chap,
+    ports, online, mapped, internal, portalMode, maxOutstandingIo, seenBy)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Initiator, protocol, wwpn, wwnn, portId, iscsiName, loggedIn,
+    target, dm, seenBy)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LunPath, target, lun, vpGroup, status)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LockedRange, start, size)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(CacheSettings, adapter, mode, profile, maxCacheBytes, minRead,
+    maxRead, minWrite, maxWrite, lockedRanges, mirrored, mirrorAdapter, mirrorState, mirrorFlag, dirtyBytes,
+    flushStarted, flushPolls, since)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LocalLun, owner, name, readOnly, mirrorType, mirrorPeer)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Reservation, type, key)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Lun, wwuln, codeSet, type, sizeBytes, vendor, product, revision,
+    serial, page80, online, extraState, paths, reservation, cached, cache, statsClearedAt, local, localInfo)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(San, format, version, name, hosts, adapters, clusters, targets,
+    initiators, luns, faults, nextLocalLun)
+
+std::string scenarioToText(const San& san)
+{
+    nlohmann::json j = san;
+    return j.dump(2) + "\n";
+}
+
+namespace {
+
+// A misspelt field would otherwise be dropped without a word; compare what
+// was read with what it reads back as, and name the first stray key.
+bool findUnknownKey(const nlohmann::json& given, const nlohmann::json& known, const std::string& where,
+                    std::string& error)
+{
+    if (given.is_object() && known.is_object()) {
+        for (auto it = given.begin(); it != given.end(); ++it) {
+            std::string path = where + "/" + it.key();
+            if (!known.contains(it.key())) {
+                error = "unknown field \"" + path + "\"";
+                return true;
+            }
+            if (findUnknownKey(it.value(), known.at(it.key()), path, error))
+                return true;
+        }
+    } else if (given.is_array() && known.is_array()) {
+        for (size_t i = 0; i < given.size() && i < known.size(); ++i)
+            if (findUnknownKey(given[i], known[i], where + "/" + std::to_string(i), error))
+                return true;
+    }
+    return false;
+}
+
+bool checkHeader(const nlohmann::json& j, std::string& error)
+{
+    if (!j.is_object()) {
+        error = "the top level must be a JSON object";
+        return false;
+    }
+    if (!j.contains("format") || j["format"] != "hbasim-scenario") {
+        error = "not an hbasim scenario (the field \"format\" must be \"hbasim-scenario\")";
+        return false;
+    }
+    if (!j.contains("version") || !j["version"].is_number_integer()) {
+        error = "the field \"version\" is missing or not a whole number";
+        return false;
+    }
+    int version = j["version"].get<int>();
+    if (version > kScenarioVersion || version < 1) {
+        error = "format version " + std::to_string(version) + " is not supported (this simulator reads version "
+                + std::to_string(kScenarioVersion) + "); it may come from a newer hbasim";
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool scenarioFromText(const std::string& text, const std::string& origin, San& out, std::string& error)
+{
+    std::string what;
+    try {
+        nlohmann::json j = nlohmann::json::parse(text);
+        if (checkHeader(j, what)) {
+            San san = j.get<San>();
+            nlohmann::json known = san;
+            if (!findUnknownKey(j, known, "", what) && validateSan(san, what)) {
+                out = std::move(san);
+                return true;
+            }
+        }
+    } catch (const std::exception& e) {
+        what = e.what();
+    }
+    error = origin + ": " + what;
+    return false;
+}
+
+namespace {
+
+bool fail(std::string& error, const std::string& text)
+{
+    error = text;
+    return false;
+}
+
+bool validateAdapters(const San& san, std::string& error)
+{
+    std::set<u64> ids;
+    std::set<std::pair<std::string, int>> devices;
+    std::set<std::string> hosts;
+    for (const Host& h : san.hosts)
+        if (!hosts.insert(h.agent).second)
+            return fail(error, "host \"" + h.agent + "\" is defined twice");
+    for (const Adapter& a : san.adapters) {
+        std::string name = "adapter " + adapterIdText(a.id.value);
+        if (!ids.insert(a.id.value).second)
+            return fail(error, name + " is defined twice");
+        if (!hosts.count(a.host))
+            return fail(error, name + " names host \"" + a.host + "\", which is not defined");
+        if (a.device >= 0 && !devices.insert({a.host, a.device}).second)
+            return fail(error, name + " uses device " + std::to_string(a.device) + " twice on its host");
+        if (a.state != 1 && a.state != 2)
+            return fail(error, name + " has state " + std::to_string(a.state) + " (1 online, 2 offline)");
+        if (a.ports.size() > 4)
+            return fail(error, name + " has more than 4 ports");
+        if (a.drives.size() > 64)
+            return fail(error, name + " has more than 64 drives");
+        for (const Drive& d : a.drives)
+            if (d.smart.size() > 32)
+                return fail(error, name + " drive " + d.id + " has more than 32 SMART attributes");
+    }
+    return true;
+}
+
+bool validateClusters(const San& san, std::string& error)
+{
+    std::set<u64> ids;
+    for (const Adapter& a : san.adapters)
+        ids.insert(a.id.value);
+    std::set<u64> clustered;
+    std::set<std::string> names;
+    for (const Cluster& c : san.clusters) {
+        if (!names.insert(c.id).second)
+            return fail(error, "cluster \"" + c.id + "\" is defined twice");
+        for (const AdapterId& m : c.members) {
+            if (!ids.count(m.value))
+                return fail(error, "cluster \"" + c.id + "\" names unknown adapter " + adapterIdText(m.value));
+            if (!clustered.insert(m.value).second)
+                return fail(error, "adapter " + adapterIdText(m.value) + " is in more than one cluster");
+        }
+    }
+    return true;
+}
+
+bool validateLuns(const San& san, std::string& error)
+{
+    std::set<std::string> targets;
+    std::set<u64> ids;
+    for (const Adapter& a : san.adapters)
+        ids.insert(a.id.value);
+    for (const Target& t : san.targets)
+        if (!targets.insert(t.name).second)
+            return fail(error, "target \"" + t.name + "\" is defined twice");
+    std::set<std::tuple<std::string, u32, u32>> paths;
+    std::set<std::string> names;
+    for (const Lun& l : san.luns) {
+        std::string name = "LUN \"" + l.wwuln + "\"";
+        if (l.wwuln.empty())
+            return fail(error, "a LUN has no wwuln");
+        if (!names.insert(l.wwuln).second)
+            return fail(error, name + " is defined twice");
+        if (l.codeSet != 1 && l.codeSet != 2)
+            return fail(error, name + " has codeSet " + std::to_string(l.codeSet) + " (1 binary, 2 text)");
+        for (const LunPath& p : l.paths) {
+            if (!targets.count(p.target))
+                return fail(error, name + " has a path through unknown target \"" + p.target + "\"");
+            if (!paths.insert({p.target, p.lun, p.vpGroup}).second)
+                return fail(error, name + " reuses LUN number " + std::to_string(p.lun) + " of target \"" + p.target + "\"");
+        }
+        if (l.cached && !ids.count(l.cache.adapter.value))
+            return fail(error, name + " is cached on unknown adapter " + adapterIdText(l.cache.adapter.value));
+        if (l.cache.lockedRanges.size() > 16)
+            return fail(error, name + " has more than 16 locked ranges");
+        if (l.local && !ids.count(l.localInfo.owner.value))
+            return fail(error, name + " belongs to unknown adapter " + adapterIdText(l.localInfo.owner.value));
+    }
+    return true;
+}
+
+} // namespace
+
+bool validateSan(const San& san, std::string& error)
+{
+    return validateAdapters(san, error) && validateClusters(san, error) && validateLuns(san, error);
+}
+
+} // namespace sim

@@ -1,0 +1,183 @@
+#include "model/View.h"
+
+#include <algorithm>
+
+namespace sim {
+
+Adapter* findAdapter(San& san, u64 id)
+{
+    for (Adapter& a : san.adapters)
+        if (a.id.value == id)
+            return &a;
+    return nullptr;
+}
+
+const Adapter* findAdapter(const San& san, u64 id)
+{
+    return findAdapter(const_cast<San&>(san), id);
+}
+
+const Host* findHost(const San& san, const std::string& agent)
+{
+    for (const Host& h : san.hosts)
+        if (h.agent == agent)
+            return &h;
+    return nullptr;
+}
+
+const Target* findTarget(const San& san, const std::string& name)
+{
+    for (const Target& t : san.targets)
+        if (t.name == name)
+            return &t;
+    return nullptr;
+}
+
+Cluster* clusterOf(San& san, u64 adapter)
+{
+    for (Cluster& c : san.clusters)
+        for (const AdapterId& m : c.members)
+            if (m.value == adapter)
+                return &c;
+    return nullptr;
+}
+
+const Cluster* clusterOf(const San& san, u64 adapter)
+{
+    return clusterOf(const_cast<San&>(san), adapter);
+}
+
+Cluster* findCluster(San& san, const std::string& id)
+{
+    for (Cluster& c : san.clusters)
+        if (c.id == id)
+            return &c;
+    return nullptr;
+}
+
+bool adapterAnswers(const Adapter& a, long long now)
+{
+    return a.state == 1 && now >= a.restartUntil;
+}
+
+std::vector<int> discoveryPorts(const San& san, const Adapter& a, const Target& t)
+{
+    (void)san;
+    std::vector<int> ports;
+    bool seen = t.seenBy.empty() ? !t.internal
+                                 : std::any_of(t.seenBy.begin(), t.seenBy.end(),
+                                               [&](const AdapterId& id) { return id == a.id; });
+    if (!seen)
+        return ports;
+    for (int p : t.ports) {
+        size_t index = static_cast<size_t>(p - 1);
+        if (p >= 1 && index < a.ports.size() && a.ports[index].enabled && a.ports[index].online)
+            ports.push_back(p);
+    }
+    return ports;
+}
+
+bool adapterSeesTarget(const San& san, const Adapter& a, const Target& t)
+{
+    return !discoveryPorts(san, a, t).empty();
+}
+
+Lun* findLun(San& san, const PathRef& path)
+{
+    for (Lun& l : san.luns)
+        for (const LunPath& p : l.paths)
+            if (p.target == path.target && p.lun == path.lun && p.vpGroup == path.vpGroup)
+                return &l;
+    return nullptr;
+}
+
+const Lun* findLun(const San& san, const PathRef& path)
+{
+    return findLun(const_cast<San&>(san), path);
+}
+
+Lun* findLunByWwuln(San& san, const std::string& wwuln)
+{
+    for (Lun& l : san.luns)
+        if (l.wwuln == wwuln)
+            return &l;
+    return nullptr;
+}
+
+bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path)
+{
+    const Target* t = findTarget(san, path.target);
+    return t && findLun(san, path) && adapterSeesTarget(san, a, *t);
+}
+
+int cacheStateFor(const Lun& lun, u64 adapter)
+{
+    if (!lun.cached)
+        return 1;
+    return lun.cache.adapter.value == adapter ? 2 : 3;
+}
+
+int mirrorStateFor(const Lun& lun, u64 adapter)
+{
+    if (lun.local && lun.localInfo.mirrorType == 2)
+        return lun.localInfo.owner.value == adapter ? 2 : 3;
+    if (lun.cached && lun.cache.mirrored) {
+        if (lun.cache.adapter.value == adapter)
+            return 2;
+        if (lun.cache.mirrorAdapter.value == adapter)
+            return 3;
+    }
+    return 1;
+}
+
+bool isCacheableLun(const Lun& lun)
+{
+    return lun.type == 1 && !lun.local;
+}
+
+u32 lunStateBits(const San& san, const Lun& lun, const Adapter& viewer)
+{
+    (void)san;
+    u32 bits = lun.extraState;
+    if (lun.online)
+        bits |= 1u << 0;
+    bits |= 1u << 11;                       // mapped
+    if (lun.local) {
+        bits |= 1u << 18;                   // storage media SSD
+        bits |= lun.localInfo.owner == viewer.id ? 1u << 14 : 1u << 15;
+        if (lun.localInfo.mirrorType == 2)
+            bits |= 1u << 22;
+    }
+    if (lun.cached && lun.cache.mode != 6)
+        bits |= 1u << 21;                   // cache ready
+    return bits;
+}
+
+u64 configuredBytes(const Adapter& a)
+{
+    u64 sum = 0;
+    for (const Drive& d : a.drives)
+        if (d.configured && d.online)
+            sum += d.sizeBytes;
+    return sum;
+}
+
+u64 totalDriveBytes(const Adapter& a)
+{
+    u64 sum = 0;
+    for (const Drive& d : a.drives)
+        if (d.online)
+            sum += d.sizeBytes;
+    return sum;
+}
+
+u64 dataLunBytes(const San& san, u64 adapter)
+{
+    u64 sum = 0;
+    for (const Lun& l : san.luns)
+        if (l.local && l.localInfo.owner.value == adapter)
+            sum += l.sizeBytes;
+    return sum;
+}
+
+} // namespace sim

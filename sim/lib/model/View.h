@@ -1,0 +1,51 @@
+// Questions about the SAN as one adapter sees it: which targets and LUN
+// paths it reaches, and how each LUN's cache looks from there.
+#pragma once
+
+#include "model/San.h"
+
+#include <string>
+#include <vector>
+
+namespace sim {
+
+Adapter* findAdapter(San& san, u64 id);
+const Adapter* findAdapter(const San& san, u64 id);
+const Host* findHost(const San& san, const std::string& agent);
+const Target* findTarget(const San& san, const std::string& name);
+const Cluster* clusterOf(const San& san, u64 adapter);
+Cluster* clusterOf(San& san, u64 adapter);
+Cluster* findCluster(San& san, const std::string& id);
+
+// The adapter answers requests: online and not in the middle of a restart.
+bool adapterAnswers(const Adapter& a, long long now);
+
+// FC ports (1-based) on which the adapter discovers the target; empty when it
+// does not see the target at all.
+std::vector<int> discoveryPorts(const San& san, const Adapter& a, const Target& t);
+bool adapterSeesTarget(const San& san, const Adapter& a, const Target& t);
+
+struct PathRef {
+    std::string target;
+    u32 lun = 0;
+    u32 vpGroup = 1;
+};
+
+Lun* findLun(San& san, const PathRef& path);
+const Lun* findLun(const San& san, const PathRef& path);
+Lun* findLunByWwuln(San& san, const std::string& wwuln);
+bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path);
+
+// 1 not cached, 2 cached on this adapter, 3 cached on a peer.
+int cacheStateFor(const Lun& lun, u64 adapter);
+// 1 not mirrored, 2 primary, 3 secondary.
+int mirrorStateFor(const Lun& lun, u64 adapter);
+bool isCacheableLun(const Lun& lun);
+u32 lunStateBits(const San& san, const Lun& lun, const Adapter& viewer);
+
+// Storage arithmetic of one adapter's drives.
+u64 configuredBytes(const Adapter& a);
+u64 totalDriveBytes(const Adapter& a);
+u64 dataLunBytes(const San& san, u64 adapter);
+
+} // namespace sim

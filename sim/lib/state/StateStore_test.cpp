@@ -1,0 +1,185 @@
+#include "state/StateStore.h"
+
+#include "model/Codes.h"
+#include "model/Generate.h"
+#include "model/Rules.h"
+#include "model/Scenario.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace sim;
+
+namespace {
+
+class StateStoreTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        char pattern[] = "/tmp/hbasim-store-XXXXXX";
+        ASSERT_NE(mkdtemp(pattern), nullptr);
+        dir = pattern;
+        path = dir + "/state/san.json";
+        setenv("HBASIM_TIME", "1700000000", 1);
+    }
+    void TearDown() override { std::system(("rm -rf '" + dir + "'").c_str()); }
+
+    std::string dir;
+    std::string path;
+};
+
+std::string fileText(const std::string& path)
+{
+    std::ifstream in(path);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+} // namespace
+
+TEST_F(StateStoreTest, FirstReadCreatesTheDefaultSan)
+{
+    StateStore store(path);
+    San san;
+    std::string error;
+    ASSERT_TRUE(store.read(san, error)) << error;
+    EXPECT_EQ(san.adapters.size(), 5u);
+    struct stat st;
+    EXPECT_EQ(stat(path.c_str(), &st), 0);
+}
+
+TEST_F(StateStoreTest, DefaultPathFollowsTheEnvironment)
+{
+    setenv("HBASIM_STATE", "/x/y.json", 1);
+    EXPECT_EQ(StateStore::defaultPath(), "/x/y.json");
+    unsetenv("HBASIM_STATE");
+    setenv("HOME", "/home/someone", 1);
+    EXPECT_EQ(StateStore::defaultPath(), "/home/someone/.hbasim/san.json");
+}
+
+TEST_F(StateStoreTest, BrokenStateIsReportedAndLeftAlone)
+{
+    StateStore store(path);
+    std::string error;
+    San san;
+    ASSERT_TRUE(store.read(san, error));
+    std::ofstream(path) << "{ broken";
+    EXPECT_FALSE(store.read(san, error));
+    EXPECT_NE(error.find(path), std::string::npos) << error;
+    EXPECT_FALSE(store.update([](San&) { return true; }, error));
+    EXPECT_EQ(fileText(path), "{ broken");
+}
+
+TEST_F(StateStoreTest, RefusedChangeLeavesTheFileUntouched)
+{
+    StateStore store(path);
+    std::string error;
+    San san;
+    ASSERT_TRUE(store.read(san, error));
+    std::string before = store.stamp();
+    ASSERT_TRUE(store.update([](San& s) { s.name = "changed"; return false; }, error));
+    EXPECT_EQ(store.stamp(), before);
+    ASSERT_TRUE(store.update([](San& s) { s.name = "changed"; return true; }, error));
+    ASSERT_TRUE(store.read(san, error));
+    EXPECT_EQ(san.name, "changed");
+}
+
+// Eight processes toggle caching of their own LUN on one adapter, and log
+// each toggle there; every toggle must survive.
+TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
+{
+    constexpr int kProcesses = 8;
+    constexpr int kToggles = 25;
+    San start = generateSan(2, 12, 8);
+    ASSERT_GE(start.luns.size(), static_cast<size_t>(kProcesses));
+    start.adapters[0].log.clear();
+    std::string error;
+    ASSERT_TRUE(StateStore(path).replace(start, error)) << error;
+    const u64 adapter = start.adapters[0].id.value;
+
+    std::vector<pid_t> children;
+    for (int p = 0; p < kProcesses; ++p) {
+        pid_t pid = fork();
+        ASSERT_GE(pid, 0);
+        if (pid == 0) {
+            try {
+            StateStore store(path);
+            PathRef lun{start.luns[static_cast<size_t>(p)].paths[0].target, start.luns[static_cast<size_t>(p)].paths[0].lun, 1};
+            for (int i = 0; i < kToggles; ++i) {
+                std::string err;
+                bool ok = store.update([&](San& san) {
+                    rules::CacheRequest req;
+                    req.mode = (i % 2 == 0) ? 1 : 0;
+                    if (rules::enableCache(san, adapter, lun, req, 1700000000) != code::Ok)
+                        return false;
+                    rules::appendLog(*findAdapter(san, adapter), 1700000000, 5, "test", "toggle");
+                    return true;
+                }, err);
+                if (!ok) {
+                    fprintf(stderr, "child %d: %s\n", p, err.c_str());
+                    _exit(1);
+                }
+            }
+            } catch (const std::exception& e) {
+                fprintf(stderr, "child %d: %s\n", p, e.what());
+                _exit(3);
+            }
+            _exit(0);
+        }
+        children.push_back(pid);
+    }
+    // Meanwhile every snapshot must parse.
+    StateStore reader(path);
+    int reads = 0;
+    for (;;) {
+        San snapshot;
+        EXPECT_TRUE(reader.read(snapshot, error)) << error;
+        ++reads;
+        int status;
+        pid_t done = waitpid(-1, &status, WNOHANG);
+        if (done > 0) {
+            EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
+            children.erase(std::find(children.begin(), children.end(), done));
+            if (children.empty())
+                break;
+        }
+    }
+    San end;
+    ASSERT_TRUE(reader.read(end, error)) << error;
+    EXPECT_EQ(end.adapters[0].log.size(), static_cast<size_t>(kProcesses * kToggles));
+    for (int p = 0; p < kProcesses; ++p)
+        EXPECT_EQ(end.luns[static_cast<size_t>(p)].cached, kToggles % 2 == 1) << "LUN " << p;
+    EXPECT_GT(reads, 0);
+}
+
+// A writer killed at any moment leaves a state that reads.
+TEST_F(StateStoreTest, KilledWritersNeverLeaveAnUnreadableState)
+{
+    San big = generateSan(4, 300, 8);
+    std::string error;
+    ASSERT_TRUE(StateStore(path).replace(big, error)) << error;
+    srand(4242);
+    for (int round = 0; round < 8; ++round) {
+        pid_t pid = fork();
+        ASSERT_GE(pid, 0);
+        if (pid == 0) {
+            StateStore store(path);
+            for (int i = 0;; ++i) {
+                std::string err;
+                store.update([&](San& san) { san.name = "round" + std::to_string(i); return true; }, err);
+            }
+        }
+        usleep(static_cast<useconds_t>(2000 + rand() % 40000));
+        kill(pid, SIGKILL);
+        int status;
+        waitpid(pid, &status, 0);
+        San san;
+        ASSERT_TRUE(StateStore(path).read(san, error)) << "round " << round << ": " << error;
+        EXPECT_EQ(san.luns.size(), big.luns.size());
+    }
+}
