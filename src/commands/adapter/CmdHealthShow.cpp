@@ -1,0 +1,30 @@
+#include "commands/adapter/CmdHealthShow.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_SHOW, CmdItem::ITEM_HEALTH, TokenCmd::GROUP_ORDINARY),
+    endRow(),
+};
+
+} // namespace
+
+CmdHealthShow::CmdHealthShow()
+{
+    declareCommand(*this, rows);
+    helpTitle = "Show Health";
+    helpDescription = "Shows the health of the adapter: temperatures, voltages, batteries and components.";
+    helpSyntax = adapterSyntax();
+    helpModifiers = adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0";
+    helpResultFile = recordResultHelp("KAdapterHealthInfo", 360);
+}
+
+int CmdHealthShow::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

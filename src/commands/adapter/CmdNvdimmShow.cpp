@@ -1,0 +1,31 @@
+#include "commands/adapter/CmdNvdimmShow.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_SHOW, CmdItem::ITEM_NVDIMM, TokenCmd::GROUP_NVDIMM),
+    endRow(),
+};
+
+} // namespace
+
+CmdNvdimmShow::CmdNvdimmShow()
+{
+    declareCommand(*this, rows);
+    helpTitle = "Show NVDIMM";
+    helpDescription = "Shows the state of the NVDIMM of the adapter.";
+    helpSyntax = adapterSyntax();
+    helpModifiers = adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0";
+    helpResultFile = recordResultHelp("KNvdimmInfo", 328);
+    helpNotes = "The adapter must support an NVDIMM.";
+}
+
+int CmdNvdimmShow::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

@@ -1,0 +1,31 @@
+#include "commands/adapter/CmdSystemCaptureShow.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_SHOW, CmdItem::ITEM_SYSTEM_CAPTURE, TokenCmd::GROUP_ORDINARY),
+    keywordRow(ModifierId::MODIFIER_FILEPATH, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    endRow(),
+};
+
+} // namespace
+
+CmdSystemCaptureShow::CmdSystemCaptureShow()
+{
+    declareCommand(*this, rows);
+    helpTitle = "Show System_Capture";
+    helpDescription = "Shows the system capture of the adapter: a readable dump of its state for support.";
+    helpSyntax = "\t[-file=<file name>]\n" + adapterSyntax();
+    helpModifiers = "-file=<file name>\n"
+        "\tName of the capture.\n" + adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0";
+}
+
+int CmdSystemCaptureShow::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

@@ -1,0 +1,35 @@
+#include "commands/cache/CmdCacheInvalidate.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_INVALIDATE, CmdItem::ITEM_CACHE, TokenCmd::GROUP_CACHE),
+    keywordRow(ModifierId::MODIFIER_LUN_SIZE_LBA, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    keywordRow(ModifierId::MODIFIER_LUN_START_LBA, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    LUN_SELECTOR_ROWS,
+    endRow(),
+};
+
+} // namespace
+
+CmdCacheInvalidate::CmdCacheInvalidate()
+{
+    declareCommand(*this, rows);
+    helpTitle = "Invalidate Cache";
+    helpDescription = "Drops the cached data of a range of logical blocks of one LUN, or of the whole LUN when no range "
+        "is given.";
+    helpSyntax = lbaRangeSyntax(false) + "\n" + lunSelectorSyntax() + "\n" + adapterSyntax();
+    helpModifiers = lbaRangeHelp() + "\n" + lunSelectorHelp() + "\n" + adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234"
+        + ugCommandPrompt() + "-zek=0 -lun_start_lba=0 -lun_size_lba=2048 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpNotes = "Exactly one LUN must be selected.";
+}
+
+int CmdCacheInvalidate::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

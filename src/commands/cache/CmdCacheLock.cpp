@@ -1,0 +1,33 @@
+#include "commands/cache/CmdCacheLock.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_LOCK, CmdItem::ITEM_CACHE, TokenCmd::GROUP_CACHE),
+    keywordRow(ModifierId::MODIFIER_LUN_SIZE_LBA, TokenModifier::REQUIRED, TokenModifier::VALUE_REQUIRED),
+    keywordRow(ModifierId::MODIFIER_LUN_START_LBA, TokenModifier::REQUIRED, TokenModifier::VALUE_REQUIRED),
+    LUN_SELECTOR_ROWS,
+    endRow(),
+};
+
+} // namespace
+
+CmdCacheLock::CmdCacheLock()
+{
+    declareCommand(*this, rows);
+    helpTitle = "Lock Cache";
+    helpDescription = "Keeps a range of logical blocks of a cached LUN in the cache.";
+    helpSyntax = lbaRangeSyntax(true) + "\n" + lunSelectorSyntax() + "\n" + adapterSyntax();
+    helpModifiers = lbaRangeHelp() + "\n" + lunSelectorHelp() + "\n" + adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -lun_start_lba=0 -lun_size_lba=2048 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpNotes = "Exactly one LUN must be selected. A LUN holds at most 16 locked ranges.";
+}
+
+int CmdCacheLock::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

@@ -1,0 +1,31 @@
+#include "commands/lun/CmdReservationClear.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_CLEAR, CmdItem::ITEM_RESERVATION, TokenCmd::GROUP_CACHE),
+    LUN_SELECTOR_ROWS,
+    endRow(),
+};
+
+} // namespace
+
+CmdReservationClear::CmdReservationClear()
+{
+    declareCommand(*this, rows);
+    helpTitle = "Clear Reservation";
+    helpDescription = "Clears the SCSI persistent reservation of one LUN.";
+    helpSyntax = lunSelectorSyntax() + "\n" + adapterSyntax();
+    helpModifiers = lunSelectorHelp() + "\n" + adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpNotes = "Exactly one LUN must be selected.";
+}
+
+int CmdReservationClear::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

@@ -1,0 +1,30 @@
+#include "commands/storage/CmdDeviceList.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_LIST, CmdItem::ITEM_DEVICE, TokenCmd::GROUP_ORDINARY),
+    endRow(),
+};
+
+} // namespace
+
+CmdDeviceList::CmdDeviceList()
+{
+    declareCommand(*this, rows);
+    helpTitle = "List Device";
+    helpDescription = "Lists the devices that the adapter sees on the fabric.";
+    helpSyntax = adapterSyntax();
+    helpModifiers = adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0";
+    helpResultFile = listResultHelp("KDeviceID", 288, "device identifier");
+}
+
+int CmdDeviceList::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}

@@ -1,0 +1,30 @@
+#include "commands/storage/CmdTargetList.h"
+
+#include "commands/CommandDeclaration.h"
+#include "commands/KeywordHelp.h"
+#include "commands/NotAvailable.h"
+
+namespace {
+
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_LIST, CmdItem::ITEM_TARGET, TokenCmd::GROUP_ORDINARY),
+    endRow(),
+};
+
+} // namespace
+
+CmdTargetList::CmdTargetList()
+{
+    declareCommand(*this, rows);
+    helpTitle = "List Target";
+    helpDescription = "Lists the targets that the adapter sees on the fabric.";
+    helpSyntax = adapterSyntax();
+    helpModifiers = adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0";
+    helpResultFile = listResultHelp("PTargetID", 288, "target identifier");
+}
+
+int CmdTargetList::execCommand(std::string& err)
+{
+    return commandNotAvailableYet(*this, err);
+}
