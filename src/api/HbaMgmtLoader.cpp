@@ -138,12 +138,17 @@ int64_t InitializeHbaMgmtAPI()
 
 int ReleaseHbaMgmtAPI()
 {
+    // A second release, or one after a failed start, has nothing to do.
+    if (g_pHbaMgmtApi == nullptr || g_hbaMgmt_destroy_instance__pf == nullptr)
+        return 0;
     g_pHbaMgmtApi->uninitialize();
     return g_hbaMgmt_destroy_instance__pf(&g_pHbaMgmtApi);
 }
 
 bool IsVersionCompatible()
 {
+    if (g_pHbaMgmtApi == nullptr)
+        return false;
     KLibraryVersionInfo version;
     g_pHbaMgmtApi->getLibraryVersionInfo(version);
     // The build number does not matter for the interface.

@@ -33,11 +33,12 @@ int64_t InitializeHbaMgmtAPI();
 
 // Uninitializes the API object and hands it to the destroy entry, returning
 // what that entry returned. The library stays mapped, so a later
-// InitializeHbaMgmtAPI unloads and loads it anew. Needs a live API object.
+// InitializeHbaMgmtAPI unloads and loads it anew. Without an API object
+// there is nothing to release, and the result is 0.
 int ReleaseHbaMgmtAPI();
 
 // True when the library is of the interface generation 2.103.6, whatever
-// its build number.
+// its build number; false when no library is loaded.
 bool IsVersionCompatible();
 
 // True when no API object exists.

@@ -245,6 +245,10 @@ TEST(InitializeHbaMgmtApi, CreatesAndInitializesTheObjectThenReleasesIt)
     EXPECT_EQ(g_pHbaMgmtApi, nullptr);
     EXPECT_TRUE(IsRunningInLibrary());
 
+    // Releasing twice does nothing the second time.
+    EXPECT_EQ(ReleaseHbaMgmtAPI(), 0);
+    EXPECT_FALSE(IsVersionCompatible());
+
     // The library stayed mapped; loading again unloads it first and starts over.
     EXPECT_EQ(InitializeHbaMgmtAPI(), 4242);
     EXPECT_EQ(ReleaseHbaMgmtAPI(), 7);
