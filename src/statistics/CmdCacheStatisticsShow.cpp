@@ -25,7 +25,8 @@ CmdCacheStatisticsShow::CmdCacheStatisticsShow()
         "\t[-csv_folder=<folder>]\n"
         "\t[-delta]\n" + adapterSyntax();
     helpModifiers = "-interval=<seconds>\n"
-        "\tRepeat every so many seconds until interrupted with Ctrl-C.\n"
+        "\tRepeat every so many seconds, 0 to 100000, until interrupted\n"
+        "\twith Ctrl-C. 0 or not given shows the figures once.\n"
         "-csv_folder=<folder>\n"
         "\tWith -interval, also append the figures to CSV files in a new\n"
         "\tfolder of this run under this folder.\n"

@@ -25,9 +25,11 @@ CmdLunStatisticsShow::CmdLunStatisticsShow()
     helpSyntax = "\t[-interval=<seconds>]\n" + lunSelectorSyntax() + "\n"
         "\t[-csv_folder=<folder>]\n" + adapterSyntax();
     helpModifiers = "-interval=<seconds>\n"
-        "\tRefresh the table every so many seconds until interrupted with Ctrl-C.\n" + lunSelectorHelp() + "\n"
+        "\tRefresh the table every so many seconds, 0 to 100000, until\n"
+        "\tinterrupted with Ctrl-C. 0 or not given shows it once.\n" + lunSelectorHelp() + "\n"
         "-csv_folder=<folder>\n"
-        "\tAlso append the figures of each LUN to a CSV file in this folder.\n" + adapterHelp();
+        "\tAlso append the figures of each LUN to a CSV file in this folder,\n"
+        "\twhich must exist.\n" + adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0"
         + ugCommandPrompt() + "-zek=0 -interval=10 -csv_folder=stats";
 }

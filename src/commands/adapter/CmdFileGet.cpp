@@ -29,7 +29,7 @@ CmdFileGet::CmdFileGet()
         "-name=<name>\n"
         "\tName of the file on the adapter.\n"
         "-clear\n"
-        "\tDelete the file on the adapter after the copy.\n" + adapterHelp();
+        "\tClear the file on the adapter after the copy.\n" + adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=/tmp/config.txt -name=config.txt";
 }
 

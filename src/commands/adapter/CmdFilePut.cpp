@@ -29,7 +29,7 @@ CmdFilePut::CmdFilePut()
         "-name=<name>\n"
         "\tName of the file on the adapter. Default is the local name.\n"
         "-clear\n"
-        "\tClear the target area on the adapter before the copy.\n" + adapterHelp();
+        "\tClear the file on the adapter before the copy.\n" + adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=/tmp/config.txt -name=config.txt";
 }
 

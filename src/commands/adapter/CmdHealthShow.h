@@ -1,4 +1,5 @@
-// "show health": shows the health of the adapter: temperatures, voltages, batteries and components.
+// "show health": shows the health of the adapter: temperatures, PCI Express links, memory and cache
+// error counts, beacons and hardware error flags.
 #pragma once
 
 #include <string>

@@ -19,8 +19,8 @@ CmdCacheDisable::CmdCacheDisable()
 {
     declareCommand(*this, rows);
     helpTitle = "Disable Cache";
-    helpDescription = "Stops caching a LUN. Dirty data is written back to the LUN first. With -clusterid the request goes "
-        "to the primary adapter of that cluster.";
+    helpDescription = "Stops caching a LUN on the adapter named by -zek. With -clusterid the request goes to the primary "
+        "adapter of that cluster instead.";
     helpSyntax = lunSelectorSyntax() + "\n"
         "\t[-clusterid=<cluster id>]\n" + adapterSyntax();
     helpModifiers = lunSelectorHelp() + "\n"

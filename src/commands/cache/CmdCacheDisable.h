@@ -1,4 +1,4 @@
-// "disable cache": stops caching a LUN.
+// "disable cache": stops caching a LUN on the adapter named by -zek.
 #pragma once
 
 #include <string>

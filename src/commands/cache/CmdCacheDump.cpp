@@ -19,8 +19,8 @@ CmdCacheDump::CmdCacheDump()
 {
     declareCommand(*this, rows);
     helpTitle = "Dump Cache";
-    helpDescription = "Saves a summary of the cache of the adapter in a file named CacheInfo-<adapter id>-<time>.txt and "
-        "displays it, once or at an interval.";
+    helpDescription = "Saves a summary of the cache of the adapter in a file named CacheInfo-<adapter id><YYYY-MM-DD_HH-MM-SS>.txt "
+        "and displays it, once or at an interval.";
     helpSyntax = "\t[-folder=<folder>]\n"
         "\t[-interval=<seconds>]\n" + adapterSyntax();
     helpModifiers = "-folder=<folder>\n"

@@ -1,5 +1,5 @@
 // "dump cache": saves a summary of the cache of the adapter in a file named CacheInfo-<adapter
-// id>-<time>.txt and displays it, once or at an interval.
+// id><YYYY-MM-DD_HH-MM-SS>.txt and displays it, once or at an interval.
 #pragma once
 
 #include <string>

@@ -44,7 +44,7 @@ CmdLogList::CmdLogList()
         "-csv_file=<file name>\n"
         "\tAlso write the log to this CSV file.\n"
         "-previous=<count>\n"
-        "\tShow only the newest <count> entries.\n" + adapterHelp();
+        "\tShow only the newest <count> matching entries.\n" + adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0"
         + ugCommandPrompt() + "-zek=0 -severity=error -previous=10"
         + ugCommandPrompt() + "-zek=0 -csv_file=log.csv -csv_delimiter=;";
