@@ -107,7 +107,7 @@ std::string KFcInfo::displayText() const
     text += "\n    Port ID = " + portIdToText(firstPortId, 4);
     text += "\n    Firmware Revision = ";
     if (firmwareRevision[0] != '\0')
-        text += std::string(firmwareRevision, strnlen(firmwareRevision, sizeof(firmwareRevision)));
+        text += charFieldToText(firmwareRevision);
     text += "\n    Frame Size = " + numberToText(frameSize);
     if (sfpState != SFP_STATE_UNKNOWN)
         text += "\n    SFP Type = " + sfpStateToText(sfpState);

@@ -1,7 +1,5 @@
 #include "records/KInitiatorInfo.h"
 
-#include <cstring>
-
 // ---- Fibre Channel names ----------------------------------------------------
 
 KFcInitiatorInfo::KFcInitiatorInfo() : PBase()
@@ -90,9 +88,9 @@ std::string KIscsiInitiatorInfo::displayText() const
 std::string KIscsiInitiatorInfo::displayText(const std::string& prefix) const
 {
     return prefix + "iSCSI Target\n" + prefix + "iSCSI Name = " +
-           std::string(iscsiName, strnlen(iscsiName, sizeof(iscsiName))) + "\n" + prefix + "CHAP is " +
+           charFieldToText(iscsiName) + "\n" + prefix + "CHAP is " +
            enableToText(chapEnabled) + "\n" + prefix + "CHAP Secret = " +
-           std::string(chapSecret, strnlen(chapSecret, sizeof(chapSecret))) + "\n";
+           charFieldToText(chapSecret) + "\n";
 }
 
 // ---- the initiator --------------------------------------------------------------

@@ -1,7 +1,5 @@
 #include "records/KLunInfo.h"
 
-#include <cstring>
-
 namespace {
 
 const char* const kLunStateBitTexts[32] = {
@@ -160,7 +158,7 @@ std::string KLunInfo::wwulnText() const
         std::string text = "\n    WWULN = ";
         if (ui8Wwuln[0] != 0) {
             const char* name = reinterpret_cast<const char*>(ui8Wwuln);
-            text += "\"" + std::string(name, strnlen(name, kWwulnCapacity)) + "\"\n";
+            text += "\"" + charFieldToText(name, kWwulnCapacity) + "\"\n";
         }
         return text;
     }
@@ -183,16 +181,16 @@ std::string KLunInfo::displayText() const
     }
     text += displayLunStateText();
     text += "\n    LUN Type   = " + lunTypeToText(m_eLunType);
-    text += "\n    Vendor ID      = " + std::string(szVendorId, strnlen(szVendorId, sizeof(szVendorId)));
-    text += "\n    Product ID     = " + std::string(szProductId, strnlen(szProductId, sizeof(szProductId)));
+    text += "\n    Vendor ID      = " + charFieldToText(szVendorId);
+    text += "\n    Product ID     = " + charFieldToText(szProductId);
     text += "\n    Revision Level = " +
-            std::string(szRevisionLevel, strnlen(szRevisionLevel, sizeof(szRevisionLevel)));
+            charFieldToText(szRevisionLevel);
     text += "\n    Serial Number  = ";
     for (uint8_t byte : ui8SerialNumber)
         text += byteToHexText(byte);
     if (ui32Page80SerialLength != 0)
         text += "\n    Page 0x80 serial number = " +
-                std::string(szPage80Serial, strnlen(szPage80Serial, sizeof(szPage80Serial)));
+                charFieldToText(szPage80Serial);
     text += wwulnText();
 
     if (isLunState(LUN_STATE_STORAGE_MEDIA_SSD))

@@ -91,7 +91,7 @@ bool KIscsiLunPathInfo::serialize(bool write, FILE* file, std::string& error)
 
 std::string KIscsiLunPathInfo::displayText() const
 {
-    return "            iSCSI Target Name = " + std::string(szTargetName, strnlen(szTargetName, sizeof(szTargetName))) +
+    return "            iSCSI Target Name = " + charFieldToText(szTargetName) +
            "\n            IP Address = " + ipAddress.displayText() +
            "\n            TCP Port = " + ui64NumberToText(ui32TcpPort) + "\n";
 }

@@ -1,6 +1,5 @@
 #include "records/KSfpInfo.h"
 
-#include <cstring>
 #include <stdexcept>
 
 namespace {
@@ -30,11 +29,6 @@ const char* const kDriverStatusTexts[8] = {
     "No error",           "Driver not ready", "Driver no resource", "Data transfer error",
     "Firmware no resource", "Read timeout",   "SFP not present",    "Unknown",
 };
-
-std::string fixedText(const char* text, size_t capacity)
-{
-    return std::string(text, strnlen(text, capacity));
-}
 
 }  // namespace
 
@@ -150,8 +144,8 @@ std::string KSfpInfo::statusRow() const
 std::string KSfpInfo::displayText() const
 {
     std::string text = "    SFP Port = " + ui64NumberToText(portIndex + 1ULL);
-    text += "\n    Vendor Name = " + fixedText(vendorName, sizeof(vendorName));
-    text += "\n    Serial Number = " + fixedText(serialNumber, sizeof(serialNumber));
+    text += "\n    Vendor Name = " + charFieldToText(vendorName);
+    text += "\n    Serial Number = " + charFieldToText(serialNumber);
     text += "\n    Driver Status = " + driverStatusToText(driverStatus) + "\n";
     text += "\n    SFP General Status\n";
     // "Bia" is how the column has always been headed.

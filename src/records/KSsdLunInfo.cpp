@@ -1,7 +1,5 @@
 #include "records/KSsdLunInfo.h"
 
-#include <cstring>
-
 #include "records/KIsaAdapterPath.h"
 
 KSsdLunInfo::KSsdLunInfo() : PBase()
@@ -43,7 +41,7 @@ std::string KSsdLunInfo::displayText() const
                        ui64NumberToText(ui64SizeBytes / 512) + " blocks)\n";
     // The name array may arrive without its terminator; never read past it.
     text += "    Symbolic Name = \"" +
-            std::string(szSymbolicName, strnlen(szSymbolicName, sizeof(szSymbolicName))) + "\"\n";
+            charFieldToText(szSymbolicName) + "\"\n";
     if (bReadOnly)
         text += "    READ-ONLY\n";
     if (bDeleteInProgress)

@@ -1,7 +1,5 @@
 #include "records/KTargetInfo.h"
 
-#include <cstring>
-
 // ---- Fibre Channel names ----------------------------------------------------
 
 KFcTargetInfo::KFcTargetInfo() : PBase()
@@ -86,7 +84,7 @@ std::string KIscsiTargetInfo::displayText() const
 
 std::string KIscsiTargetInfo::displayText(const std::string& prefix) const
 {
-    return "\n" + prefix + "iSCSI Name = " + std::string(iscsiName, strnlen(iscsiName, sizeof(iscsiName))) +
+    return "\n" + prefix + "iSCSI Name = " + charFieldToText(iscsiName) +
            "\n" + prefix + "CHAP is " + enableToText(chapEnabled) + "\n";
 }
 
