@@ -293,7 +293,7 @@ int cStringLength(const unsigned char* text)
 }
 }  // namespace
 
-PTargetIDBase::PTargetIDBase() : PUniqueID(ID_TYPE_TARGET) {}
+PTargetIDBase::PTargetIDBase() : PProtocolNameID(ID_TYPE_TARGET) {}
 
 void PTargetIDBase::initFcTargetID(const unsigned char* wwpn, int length)
 {
@@ -313,27 +313,12 @@ void PTargetIDBase::initIscsiTargetID(const unsigned char* name)
 bool PTargetIDBase::isFcTargetId() const { return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL; }
 bool PTargetIDBase::isIscsiTargetId() const { return protocol() == PBase::PROTOCOL_ISCSI; }
 
-bool PTargetIDBase::getFcWwpn(unsigned char* out, unsigned int size) const
-{
-    return copyProtocolName(PBase::PROTOCOL_FIBRE_CHANNEL, out, size, false);
-}
-
-bool PTargetIDBase::getIscsiName(unsigned char* out, unsigned int size) const
-{
-    return copyProtocolName(PBase::PROTOCOL_ISCSI, out, size, true);
-}
-
-std::string PTargetIDBase::displayText() const
-{
-    return protocolNameText();
-}
-
 void PTargetID::initFromLunIdData(const unsigned char* bytes, int length)
 {
     initFromData(bytes, length);
 }
 
-PInitiatorIDBase::PInitiatorIDBase() : PUniqueID(ID_TYPE_INITIATOR) {}
+PInitiatorIDBase::PInitiatorIDBase() : PProtocolNameID(ID_TYPE_INITIATOR) {}
 
 void PInitiatorIDBase::initFcInitiatorID(const unsigned char* wwpn, int length)
 {
@@ -353,22 +338,7 @@ void PInitiatorIDBase::initIscsiInitiatorID(const unsigned char* name)
 bool PInitiatorIDBase::isFcInitiatorId() const { return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL; }
 bool PInitiatorIDBase::isIscsiInitiatorId() const { return protocol() == PBase::PROTOCOL_ISCSI; }
 
-bool PInitiatorIDBase::getFcWwpn(unsigned char* out, unsigned int size) const
-{
-    return copyProtocolName(PBase::PROTOCOL_FIBRE_CHANNEL, out, size, false);
-}
-
-bool PInitiatorIDBase::getIscsiName(unsigned char* out, unsigned int size) const
-{
-    return copyProtocolName(PBase::PROTOCOL_ISCSI, out, size, true);
-}
-
-std::string PInitiatorIDBase::displayText() const
-{
-    return protocolNameText();
-}
-
-KDeviceIDBase::KDeviceIDBase() : KUniqueID(ID_TYPE_DEVICE) {}
+KDeviceIDBase::KDeviceIDBase() : PProtocolNameID(ID_TYPE_DEVICE) {}
 
 void KDeviceIDBase::initFcDeviceID(const unsigned char* wwpn, int length)
 {
@@ -387,21 +357,6 @@ void KDeviceIDBase::initIscsiDeviceID(const unsigned char* name)
 
 bool KDeviceIDBase::isFcDeviceId() const { return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL; }
 bool KDeviceIDBase::isIscsiDeviceId() const { return protocol() == PBase::PROTOCOL_ISCSI; }
-
-bool KDeviceIDBase::getFcWwpn(unsigned char* out, unsigned int size) const
-{
-    return copyProtocolName(PBase::PROTOCOL_FIBRE_CHANNEL, out, size, false);
-}
-
-bool KDeviceIDBase::getIscsiName(unsigned char* out, unsigned int size) const
-{
-    return copyProtocolName(PBase::PROTOCOL_ISCSI, out, size, true);
-}
-
-std::string KDeviceIDBase::displayText() const
-{
-    return protocolNameText();
-}
 
 void KDeviceID::getTargetID(PTargetID& out) const
 {

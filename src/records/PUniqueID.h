@@ -94,7 +94,28 @@ static_assert(sizeof(PUniqueID) == 288, "identifier image: vptr, tag, length, 26
 
 // ---- targets, initiators, devices ------------------------------------------
 
-class PTargetIDBase : public PUniqueID {
+// What targets, initiators and devices share: a protocol in bytes 0-3 and
+// the name from byte 4. It adds no fields.
+template <typename Base>
+class PProtocolNameID : public Base {
+public:
+    // Fibre Channel only: copies `size` bytes of the name.
+    bool getFcWwpn(unsigned char* out, unsigned int size) const
+    {
+        return this->copyProtocolName(PBase::PROTOCOL_FIBRE_CHANNEL, out, size, false);
+    }
+    // iSCSI only: copies the name, at most `size` bytes.
+    bool getIscsiName(unsigned char* out, unsigned int size) const
+    {
+        return this->copyProtocolName(PBase::PROTOCOL_ISCSI, out, size, true);
+    }
+    std::string displayText() const override { return this->protocolNameText(); }
+
+protected:
+    using Base::Base;
+};
+
+class PTargetIDBase : public PProtocolNameID<PUniqueID> {
 public:
     PTargetIDBase();
 
@@ -103,9 +124,6 @@ public:
     void initIscsiTargetID(const unsigned char* name);
     bool isFcTargetId() const;
     bool isIscsiTargetId() const;
-    bool getFcWwpn(unsigned char* out, unsigned int size) const;
-    bool getIscsiName(unsigned char* out, unsigned int size) const;
-    std::string displayText() const override;
 };
 
 class PTargetID : public PTargetIDBase {
@@ -116,7 +134,7 @@ public:
 
 static_assert(sizeof(PTargetID) == 288, "target identifier image");
 
-class PInitiatorIDBase : public PUniqueID {
+class PInitiatorIDBase : public PProtocolNameID<PUniqueID> {
 public:
     PInitiatorIDBase();
 
@@ -125,9 +143,6 @@ public:
     void initIscsiInitiatorID(const unsigned char* name);
     bool isFcInitiatorId() const;
     bool isIscsiInitiatorId() const;
-    bool getFcWwpn(unsigned char* out, unsigned int size) const;
-    bool getIscsiName(unsigned char* out, unsigned int size) const;
-    std::string displayText() const override;
 };
 
 class PInitiatorID : public PInitiatorIDBase {};
@@ -229,7 +244,7 @@ public:
     std::string displayText() const override;
 };
 
-class KDeviceIDBase : public KUniqueID {
+class KDeviceIDBase : public PProtocolNameID<KUniqueID> {
 public:
     KDeviceIDBase();
 
@@ -238,9 +253,6 @@ public:
     void initIscsiDeviceID(const unsigned char* name);
     bool isFcDeviceId() const;
     bool isIscsiDeviceId() const;
-    bool getFcWwpn(unsigned char* out, unsigned int size) const;
-    bool getIscsiName(unsigned char* out, unsigned int size) const;
-    std::string displayText() const override;
 };
 
 class KDeviceID : public KDeviceIDBase {
