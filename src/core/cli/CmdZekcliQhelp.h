@@ -1,0 +1,9 @@
+#pragma once
+
+#include "core/TokenCmd.h"
+
+class CmdZekcliQhelp : public TokenCmd {
+public:
+    CmdZekcliQhelp();
+    int execCommand(std::string& err) override;
+};

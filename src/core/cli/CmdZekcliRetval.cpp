@@ -1,0 +1,70 @@
+#include "core/cli/CmdZekcliRetval.h"
+
+#include <cstdlib>
+
+#include "api/HbaMgmtApi.h"
+#include "api/HbaMgmtLoader.h"
+#include "core/ZekcliReturn.h"
+
+namespace {
+
+TokenInitializer::TOKEN_INITIALIZER const rows[] = {
+    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_RETVAL, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY},
+    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_RV, TokenModifier::REQUIRED,
+     TokenModifier::VALUE_REQUIRED},
+    {0, 0, "", "", 0, 0, 0},
+};
+
+// What the command line's own codes mean, in words a script author can use.
+char const* ownReturnValueText(long code)
+{
+    switch (code) {
+    case ZEKCLI_OK: return "CLI Command completed OK";
+    case ZEKCLI_INIT_FAIL: return "CLI could not start because the API library failed to load";
+    case ZEKCLI_PARSE_FAIL: return "CLI could not parse the command line input";
+    case ZEKCLI_CONFIRM_FAIL:
+        return "User was prompted [yes/no] to accept risk, and the answer was not \"yes\"";
+    case ZEKCLI_CMD_FAIL: return "CLI Command execution failed";
+    case ZEKCLI_OUTPUT_FAIL:
+        return "CLI Command execution OK, but unable to output results, (e.g. file output required but could not "
+               "open file)";
+    default: return nullptr;
+    }
+}
+
+} // namespace
+
+CmdZekcliRetval::CmdZekcliRetval()
+{
+    init(TokenInitializer(rows[0]));
+    initModifiers(&rows[1]);
+    helpTitle = "Return Value";
+    helpDescription = "Explains a return value of a CLI command. The CLI's own values are explained in words "
+                      "and given back as the return value of this command, so that a script can test them; "
+                      "any other value is explained by the management library.";
+    helpSyntax = "\t-rv=<return value>";
+    helpModifiers = "-rv=<return value>\n"
+                    "\tThe return value of an earlier CLI command, in decimal.\n";
+    helpExamples = ugCommandPrompt() + "-rv=52\n" + ugCommandPrompt() + "-rv=1005\n";
+    helpResultFile = "";
+    helpNotes = "";
+}
+
+// The explanation travels as the failure text, so the frame shows it exactly
+// when the value stands for a failure.
+int CmdZekcliRetval::execCommand(std::string& err)
+{
+    TokenModifierString const* const rv = findModifier(ModifierId::MODIFIER_RV, err);
+    if (!rv)
+        return ZEKCLI_PARSE_FAIL;
+    if (rv->isDefault)
+        return ZEKCLI_OK;
+    long const code = strtol(rv->value.c_str(), nullptr, 10);
+    if (char const* const text = ownReturnValueText(code)) {
+        err = text;
+        return static_cast<int>(code);
+    }
+    int const apiCode = static_cast<int>(code);
+    err = "CLI return value \"" + std::to_string(apiCode) + "\" ==> " + g_pHbaMgmtApi->returnCodeToText(apiCode);
+    return g_pHbaMgmtApi->isFailure(apiCode) ? ZEKCLI_CMD_FAIL : ZEKCLI_OK;
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "core/TokenCmd.h"
+
+class CmdZekcliRetval : public TokenCmd {
+public:
+    CmdZekcliRetval();
+    int execCommand(std::string& err) override;
+};
