@@ -22,7 +22,9 @@ using AenCallback = void (*)(const KAdapterEventNotificationInfo& event);
 
 class HbaMgmtApi {
 public:
+    // The codes are known by their full name too, HbaMgmtApi::MHBA_E_...
     using e_MHBA_RETURN = ::e_MHBA_RETURN;
+    using enum ::e_MHBA_RETURN;
 
     virtual ~HbaMgmtApi() = default;
     virtual void reserved_2() {}

@@ -267,3 +267,12 @@ TEST(MHbaReturnBuffer, SaysWhenNoLibraryCanGiveTheText)
               "Return code 1003 (management library not loaded)");
     g_pHbaMgmtApi = saved;
 }
+
+TEST(ReturnCodes, CarryTheirNumbersUnderTheApisName)
+{
+    EXPECT_EQ(HbaMgmtApi::MHBA_S_OK_REBOOT_REQUIRED, 1);
+    EXPECT_EQ(HbaMgmtApi::MHBA_E_INVALID_ARG, 1100);
+    HbaMgmtApi::e_MHBA_RETURN code = MHBA_E_OBJECT_NOT_FOUND;
+    EXPECT_EQ(code, 1206);
+    EXPECT_EQ(sizeof code, 4u);
+}
