@@ -24,9 +24,10 @@ std::string lunSelectorHelp()
            "-lun_serial=<serial>\n"
            "\tThe LUN by its Page 0x80 serial number.\n"
            "-lun_number=<number>\n"
-           "\tLUN number on the target. Default is 0.\n"
+           "\tLUN number on the target.\n"
            "-vpgindex=<index>\n"
-           "\tVolume path group index of the LUN path. Default is 1.\n"
+           "\tVolume path group index, which tells paths with the same target and\n"
+           "\tLUN number apart.\n"
            "-fc_target=<wwpn>\n"
            "\tWorld-wide port name of the Fibre Channel target of the LUN.\n"
            "-is_target=<iscsi name>\n"
@@ -54,12 +55,18 @@ std::string syntaxLine(std::string const& keyword, bool required)
     return required ? "\t" + keyword : "\t[" + keyword + "]";
 }
 
-// A result layout line: type and name in columns, then the meaning.
-std::string resultLine(char const* type, std::string const& name, std::string const& meaning)
+// A result layout line: what stands in the file, then its meaning, in the
+// columns that the common result header help uses.
+std::string resultLine(std::string const& field, std::string const& meaning)
 {
-    char line[160];
-    std::snprintf(line, sizeof line, "\t%-6s %-20s %s\n", type, name.c_str(), meaning.c_str());
+    char line[200];
+    std::snprintf(line, sizeof line, "\t%-27s %s\n", field.c_str(), meaning.c_str());
     return line;
+}
+
+std::string intField(char const* name)
+{
+    return std::string("int    ") + name;
 }
 
 } // namespace
@@ -90,16 +97,16 @@ std::string lbaRangeHelp()
 
 std::string listResultHelp(std::string const& record, unsigned int size, std::string const& what)
 {
-    return resultLine("int", "nDataSizeInBytes;", "size of the data that follows + 4")
-           + resultLine("int", "nCountSizeInBytes;", "8")
-           + resultLine("int", "nCount;", "number of entries that follow")
+    return resultLine(intField("nDataSizeInBytes;"), "size of the data that follows + 4")
+           + resultLine(intField("nCountSizeInBytes;"), "8")
+           + resultLine(intField("nCount;"), "number of entries that follow")
            + "\tThen for each entry:\n"
-           + resultLine("int", "nDataSizeInBytes;", std::to_string(size + 4))
-           + resultLine("", record, what + " (" + std::to_string(size) + " bytes)");
+           + resultLine(intField("nDataSizeInBytes;"), std::to_string(size + 4))
+           + resultLine(record + " image;", what + " (" + std::to_string(size) + " bytes)");
 }
 
 std::string recordResultHelp(std::string const& record, unsigned int size)
 {
-    return resultLine("int", "nDataSizeInBytes;", std::to_string(size + 4))
-           + resultLine("", record, "image of the record (" + std::to_string(size) + " bytes)");
+    return resultLine(intField("nDataSizeInBytes;"), std::to_string(size + 4))
+           + resultLine(record + " image;", "the record (" + std::to_string(size) + " bytes)");
 }

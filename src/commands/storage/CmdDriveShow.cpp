@@ -31,7 +31,7 @@ CmdDriveShow::CmdDriveShow()
         "\t[-fc_target=<wwpn>]\n"
         "\t[-is_target=<iscsi name>]\n" + adapterSyntax();
     helpModifiers = "-drive=<drive id>\n"
-        "\tThe SSD drive, by the identifier that \"list drive\" shows (-drive=...).\n"
+        "\tThe SSD drive, by the identifier that \"list drive\" shows.\n"
         "-smart\n"
         "\tAlso read the SMART data of the drive.\n"
         "-verbose\n"
