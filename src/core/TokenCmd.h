@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "api/MhbaReturn.h"
 #include "core/CmdAction.h"
@@ -11,9 +12,21 @@
 #include "core/ModifierId.h"
 #include "core/Token.h"
 #include "core/TokenInitializer.h"
+#include "records/PBase.h"
 
 class HIsaAdapter;
 class PIpAddress;
+class PTime;
+class PTargetID;
+class PInitiatorID;
+class PLunID;
+class KClusterID;
+class KDeviceID;
+class KDriveID;
+class KWwulnLunID;
+class KIsaAdapterPath;
+class KInitiatorInfo;
+class KAdapterGroupExtendedLunInfo;
 
 class TokenCmd : public StringToken {
 public:
@@ -54,6 +67,60 @@ public:
     bool getIpAddressFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, PIpAddress& address, bool& found,
                                                     std::string& err);
     e_MHBA_RETURN testAgentConnectionIfAny(PIpAddress& agent, std::string& err);
+
+    // Keyword values: numbers, sizes, times, switches and identifiers. A
+    // false result means the command stops, with the reason in `err`.
+    bool getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, int min, int max, int& value, bool& found,
+                                                 std::string& err);
+    bool getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, long long min, long long max,
+                                                    long long& value, bool& found, std::string& err);
+    bool getByteSizeFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, unsigned long long& bytes, bool& found,
+                                                   std::string& err);
+    bool getTimeFromCommandLineModifierIfFound(PTime& time, bool& found, std::string& err);
+    bool getEnableFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, bool& enable, bool& found,
+                                                 std::string& err);
+    bool getClusterIdFromCommandLineModifiers(KClusterID& id, bool& found, std::string& err);
+    bool getDriveIdFromCommandLineModifiers(KDriveID& id, bool& found, std::string& err);
+    bool getDeviceIdFromCommandLineModifiers(KDeviceID& id, bool& found, std::string& err);
+    bool getInitiatorIdFromCommandLineModifiers(PInitiatorID& id, bool& found, std::string& err);
+    bool getTargetIdFromCommandLineModifiers(bool destination, PTargetID& id, bool& found, std::string& err);
+    // These three only tell whether the keyword was there.
+    bool getAsciiDriveIDFromCommandLine(KDriveID& id, bool& found, std::string& err);
+    bool getAsciiSSDLunIDFromCommandLine(KWwulnLunID& id, bool& found, std::string& err);
+    bool getAsciiWwulnFromCommandLine(KWwulnLunID& id, bool& found, std::string& err);
+
+    // Adapter selection from -zek (or another keyword naming an adapter).
+    e_MHBA_RETURN selectAdapter(KIsaAdapterPath& path, std::string& err);
+    e_MHBA_RETURN selectAdapterFromKeyword(ModifierId::MODIFIER_ID id, KIsaAdapterPath& path, std::string& err);
+
+    // How adapters, clusters, devices, initiators, targets, drives, names
+    // and LUNs are labelled in output.
+    std::string getSummaryText_Adapter(KIsaAdapterPath const& path) const;
+    std::string getSummaryText_Cluster(KClusterID const& id) const;
+    std::string getDisplayText_Device(KDeviceID const& id) const;
+    std::string getDisplayText_Initiator(PInitiatorID const& id, KInitiatorInfo const& info) const;
+    std::string getDisplayText_Target(PTargetID const& id) const;
+    std::string getDisplayText_Drive(KDriveID const& id) const;
+    std::string getDisplayText_Wwname(unsigned char const* name, int length, PBase::WWULN_CODE_SET_TYPE codeSet,
+                                      std::string const& keyword, bool destination) const;
+    std::string getDisplayText_Lun(PLunID const& lun, bool bDestination) const;
+    std::string getDisplayText_AdapterGroupLun(KAdapterGroupExtendedLunInfo const& info) const;
+
+    // LUN resolution: the LUN keywords (or their -dmdest_ set) into paths.
+    bool getLunIdFromCommandLine(HIsaAdapter* adapter, bool bDestination, bool bOneLunRequired,
+                                 std::vector<PLunID>& luns, std::string& err);
+    bool getLunIdListForLunNameFromCommandLine(HIsaAdapter* adapter, bool bDestination, bool& bNameGiven,
+                                               std::vector<PLunID>& luns, std::string& displayText,
+                                               std::string& err);
+    bool getLunIdListForOneLunNameType(HIsaAdapter* adapter, std::string const& name, PBase::LUN_NAME_TYPE type,
+                                       PTargetID const& target, std::vector<PLunID>& luns, std::string& err);
+    bool filterLunIdListToOnePerMulipathLun(HIsaAdapter* adapter, std::vector<PLunID>& luns, std::string& err);
+    void testLunRelatedModifiers(bool& bAny, bool& bRequired, bool& bNumberOrTarget, bool& bWwuln,
+                                 bool& bSerial) const;
+    void testTargetRelatedModifiers(bool& bAny, bool& bRequired) const;
+    void testInitiatorRelatedModifiers(bool& bAny, bool& bRequired) const;
+    void testDeviceRelatedModifiers(bool& bAny, bool& bRequired) const;
+    void setDefaultLunModifiers();
 
     // Help texts.
     std::string ugOsPrompt() const;
