@@ -540,7 +540,7 @@ int setPoolSize(San& san, u64 adapter, u32 megabytes, long long now)
         u64 wanted = static_cast<u64>(megabytes) * MiB;
         u64 room = configuredBytes(a);
         u64 data = dataLunBytes(san, adapter);
-        if (megabytes < 1024 || data > room || wanted > room - data)
+        if (megabytes < 4096 || data > room || wanted > room - data)
             return code::PoolSizeOutOfRange;
         a.cachePoolBytes = wanted;
         return code::Ok;
@@ -755,6 +755,99 @@ int setTargetMaxOutstandingIo(San& san, u64 adapter, const std::string& target, 
                 return code::Ok;
             }
         return code::ObjectNotFound;
+    });
+}
+
+int setPortSettings(San& san, u64 adapter, u32 port, int linkRate, int option, u32 throttle, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (port >= a.ports.size() || linkRate < 0 || linkRate > 5 || option < 0 || option > 2 || throttle < 1
+            || throttle > 65535)
+            return code::InvalidArgument;
+        Port& p = a.ports[port];
+        p.programmedLinkRate = linkRate;
+        p.connectionOption = option;
+        p.executionThrottle = throttle;
+        if (linkRate != 0)
+            p.linkRate = linkRate;
+        if (option != 2)
+            p.connectionMode = option;
+        return code::Ok;
+    });
+}
+
+int installFirmware(San& san, u64 adapter, const std::string& version, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (version.empty() || version.size() > 31)
+            return code::InvalidArgument;
+        a.swVersion = version;
+        a.needsRestart = true;
+        appendLog(a, now, 5, "fwupdate", "Firmware " + version + " written to flash");
+        return code::OkRestartRequired;
+    });
+}
+
+int storeFile(San& san, u64 adapter, const std::string& name, const std::string& content, bool clearFirst,
+              long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (name.empty() || name.find('/') != std::string::npos || content.size() > 4 * 1024 * 1024)
+            return code::InvalidArgument;
+        if (clearFirst)
+            a.files.clear();
+        a.files[name] = content;
+        return code::Ok;
+    });
+}
+
+int fetchFile(San& san, u64 adapter, const std::string& name, bool clearAfter, std::string& content, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        auto it = a.files.find(name);
+        if (it == a.files.end())
+            return code::ObjectNotFound;
+        content = it->second;
+        if (clearAfter)
+            a.files.erase(it);
+        return code::Ok;
+    });
+}
+
+int runNvdimmCommand(San& san, u64 adapter, int command, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (!a.nvdimm.present)
+            return code::NotSupported;
+        switch (command) {
+        case 0: a.nvdimm.status = 1; break;                 // disarmed
+        case 1: case 6: case 7: break;                       // erase, self test, scrub
+        case 2: case 5: a.nvdimm.status = 2; break;          // updated and armed again
+        default: return code::InvalidArgument;
+        }
+        appendLog(a, now, 5, "nvdimm", "NVDIMM command " + std::to_string(command) + " completed");
+        return code::Ok;
+    });
+}
+
+int restoreDriveConfig(San& san, u64 adapter, u64 owner, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter& a) {
+        if (!findAdapter(san, owner))
+            return code::ObjectNotFound;
+        appendLog(a, now, 5, "ssd", "Drive configuration restored from owner " + adapterIdText(owner));
+        return code::Ok;
+    });
+}
+
+int clearLunStatistics(San& san, u64 adapter, const std::string& wwuln, long long now)
+{
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        Lun* lun = findLunByWwuln(san, wwuln);
+        if (!lun)
+            return code::ObjectNotFound;
+        lun->statsClearedAt = now;
+        return code::Ok;
     });
 }
 

@@ -62,6 +62,14 @@ int pollWhileRestarting(San& san, u64 adapter, long long now);
 int setPortEnabled(San& san, u64 adapter, u32 port, bool enable, long long now);
 int setBeacon(San& san, u64 adapter, u32 port, bool enable, long long now);
 int setTargetMaxOutstandingIo(San& san, u64 adapter, const std::string& target, u32 count, long long now);
+int setPortSettings(San& san, u64 adapter, u32 port, int linkRate, int option, u32 throttle, long long now);
+int installFirmware(San& san, u64 adapter, const std::string& version, long long now);
+int storeFile(San& san, u64 adapter, const std::string& name, const std::string& content, bool clearFirst,
+              long long now);
+int fetchFile(San& san, u64 adapter, const std::string& name, bool clearAfter, std::string& content, long long now);
+int runNvdimmCommand(San& san, u64 adapter, int command, long long now);
+int restoreDriveConfig(San& san, u64 adapter, u64 owner, long long now);
+int clearLunStatistics(San& san, u64 adapter, const std::string& wwuln, long long now);
 int clearStatistics(San& san, u64 adapter, long long now);
 int clearLog(San& san, u64 adapter, long long now);
 void appendLog(Adapter& a, long long now, int severity, const std::string& source, const std::string& message);

@@ -152,7 +152,7 @@ TEST_F(RulesTest, RestartEndsAfterBoundedPolls)
 TEST_F(RulesTest, PoolSizeOutOfRangeGives156)
 {
     EXPECT_EQ(rules::setPoolSize(san, kDev0, 100u * 1024 * 1024, kNow), code::PoolSizeOutOfRange);
-    EXPECT_EQ(rules::setPoolSize(san, kDev0, 512, kNow), code::PoolSizeOutOfRange);
+    EXPECT_EQ(rules::setPoolSize(san, kDev0, 4095, kNow), code::PoolSizeOutOfRange);
     EXPECT_EQ(rules::setPoolSize(san, kDev0, 100 * 1024, kNow), code::Ok);
 }
 

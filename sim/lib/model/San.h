@@ -50,7 +50,7 @@ struct Port {
     bool enabled = true;
     bool online = true;             // link up when enabled and online
     int fcMode = 0;
-    int linkRate = 4;               // PBase::FC_LINK_RATE value in use
+    int linkRate = 3;               // PBase::FC_LINK_RATE value in use (8 Gb)
     int programmedLinkRate = 0;     // 0 auto
     std::string wwnn;
     std::string wwpn;

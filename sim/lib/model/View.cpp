@@ -110,6 +110,31 @@ bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path)
     return t && findLun(san, path) && adapterSeesTarget(san, a, *t);
 }
 
+std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a, const Target& t)
+{
+    std::vector<VisiblePath> found;
+    if (!adapterSeesTarget(san, a, t))
+        return found;
+    for (const Lun& l : san.luns)
+        for (const LunPath& p : l.paths)
+            if (p.target == t.name)
+                found.push_back({&t, &p, &l});
+    std::stable_sort(found.begin(), found.end(), [](const VisiblePath& x, const VisiblePath& y) {
+        return x.path->lun != y.path->lun ? x.path->lun < y.path->lun : x.path->vpGroup < y.path->vpGroup;
+    });
+    return found;
+}
+
+std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a)
+{
+    std::vector<VisiblePath> found;
+    for (const Target& t : san.targets) {
+        auto some = visiblePaths(san, a, t);
+        found.insert(found.end(), some.begin(), some.end());
+    }
+    return found;
+}
+
 int cacheStateFor(const Lun& lun, u64 adapter)
 {
     if (!lun.cached)

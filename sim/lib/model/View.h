@@ -36,6 +36,16 @@ const Lun* findLun(const San& san, const PathRef& path);
 Lun* findLunByWwuln(San& san, const std::string& wwuln);
 bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path);
 
+struct VisiblePath {
+    const Target* target;
+    const LunPath* path;
+    const Lun* lun;
+};
+
+// Every LUN path the adapter reaches, in target order and then by LUN number.
+std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a);
+std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a, const Target& t);
+
 // 1 not cached, 2 cached on this adapter, 3 cached on a peer.
 int cacheStateFor(const Lun& lun, u64 adapter);
 // 1 not mirrored, 2 primary, 3 secondary.

@@ -1,0 +1,58 @@
+// Where the simulated library's objects get the SAN from: the shared state
+// file, or a demonstration file held in memory for the rest of the process.
+// It also carries the message handler and the fault injection checks.
+#pragma once
+
+#include "model/San.h"
+#include "state/StateStore.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+class HMsgHandler;
+class MHbaReturnBuffer;
+
+namespace sim {
+
+class Backend {
+public:
+    Backend();
+
+    // The SAN as it stands now, brought up to the clock; null after a failure
+    // that has been reported through the message handler.
+    const San* view();
+
+    // Runs `change` on the SAN under the state lock and keeps the result when
+    // `change` succeeds (code 0 or 1) or when `keepAlways` is set. Returns the
+    // code of `change`, or the state-file failure code.
+    int change(const std::function<int(San&, long long now)>& change, bool keepAlways = false);
+
+    // Fault injection: the code an injected fault gives this operation, or 0.
+    // A gathering fault sets `firstError` and gives partial success.
+    int fault(u64 adapter, const std::string& operation, MHbaReturnBuffer* firstError = nullptr);
+
+    bool loadDemonstration(const std::string& file, std::string& error);
+    bool inDemonstration() const { return demo_.has_value(); }
+
+    void setHandler(HMsgHandler* handler) { handler_ = handler; }
+    HMsgHandler* handler() const { return handler_; }
+    void info(const std::string& text);
+    void warning(const std::string& text);
+    void progress(int percent);
+
+    long long now() const;
+
+private:
+    void reportFailure(const std::string& error);
+
+    StateStore store_;
+    std::optional<San> demo_;
+    San cached_;
+    std::string cachedStamp_;
+    bool haveCached_ = false;
+    HMsgHandler* handler_ = nullptr;
+};
+
+} // namespace sim

@@ -1,0 +1,245 @@
+#include "api/Ids.h"
+
+#include <arpa/inet.h>
+#include <cstring>
+
+namespace sim {
+
+namespace {
+
+int hexValue(char c)
+{
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
+std::vector<unsigned char> nameBytes(const std::string& hexOrText, bool binary)
+{
+    std::vector<unsigned char> bytes;
+    if (!binary || !hexToBytes(hexOrText, bytes))
+        bytes.assign(hexOrText.begin(), hexOrText.end());
+    if (bytes.size() > 256)
+        bytes.resize(256);
+    return bytes;
+}
+
+} // namespace
+
+bool hexToBytes(const std::string& hex, std::vector<unsigned char>& out)
+{
+    out.clear();
+    if (hex.size() % 2)
+        return false;
+    for (size_t i = 0; i < hex.size(); i += 2) {
+        int hi = hexValue(hex[i]), lo = hexValue(hex[i + 1]);
+        if (hi < 0 || lo < 0)
+            return false;
+        out.push_back(static_cast<unsigned char>(hi * 16 + lo));
+    }
+    return true;
+}
+
+std::string bytesToHex(const unsigned char* bytes, size_t length)
+{
+    static const char digits[] = "0123456789ABCDEF";
+    std::string text;
+    for (size_t i = 0; i < length; ++i) {
+        text += digits[bytes[i] >> 4];
+        text += digits[bytes[i] & 15];
+    }
+    return text;
+}
+
+PTargetID targetId(const Target& t)
+{
+    PTargetID id;
+    if (t.protocol == 2) {
+        id.initIscsiTargetID(reinterpret_cast<const unsigned char*>(t.iscsiName.c_str()));
+    } else {
+        std::vector<unsigned char> wwpn = nameBytes(t.wwpn, true);
+        wwpn.resize(8);
+        id.initFcTargetID(wwpn.data(), 8);
+    }
+    return id;
+}
+
+const Target* targetFor(const San& san, const PTargetID& id)
+{
+    for (const Target& t : san.targets)
+        if (targetId(t) == id)
+            return &t;
+    return nullptr;
+}
+
+PLunID lunId(const Target& t, const LunPath& p)
+{
+    PLunID id;
+    id.initLunID(targetId(t), static_cast<int>(p.lun), PBase::convertIntToVpIndex(static_cast<int>(p.vpGroup)));
+    return id;
+}
+
+bool pathFor(const San& san, const PLunID& id, PathRef& out)
+{
+    const Target* t = targetFor(san, id.targetID());
+    if (!t)
+        return false;
+    out.target = t->name;
+    out.lun = static_cast<u32>(id.lunNumber());
+    int vpg = id.vpgIndex();
+    // An identifier made without a volume path group names the first one.
+    out.vpGroup = (vpg >= 1 && vpg <= 4) ? static_cast<u32>(vpg) : 1;
+    return true;
+}
+
+std::vector<unsigned char> wwulnBytes(const Lun& lun)
+{
+    return nameBytes(lun.wwuln, lun.codeSet == 1);
+}
+
+KWwulnLunID wwulnId(const Lun& lun)
+{
+    std::vector<unsigned char> bytes = wwulnBytes(lun);
+    KWwulnLunID id;
+    id.initWwulnLunID(static_cast<PBase::WWULN_CODE_SET_TYPE>(lun.codeSet), static_cast<int>(bytes.size()),
+                      bytes.data());
+    return id;
+}
+
+const Lun* lunForWwuln(const San& san, const unsigned char* bytes, size_t length)
+{
+    if (!bytes)
+        return nullptr;
+    for (const Lun& l : san.luns) {
+        std::vector<unsigned char> own = wwulnBytes(l);
+        if (own.size() == length && std::memcmp(own.data(), bytes, length) == 0)
+            return &l;
+    }
+    return nullptr;
+}
+
+const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id)
+{
+    for (const Lun& l : san.luns)
+        if (wwulnId(l) == id)
+            return &l;
+    // A text name given for a binary WWULN: the user typed the hex digits.
+    PBase::WWULN_CODE_SET_TYPE codeSet;
+    unsigned short length = 0;
+    unsigned char name[KWwulnLunID::WWULN_COPY_SIZE];
+    if (!id.copyWwulnInfo(codeSet, length, name, sizeof name))
+        return nullptr;
+    std::string text(reinterpret_cast<const char*>(name), length);
+    for (const Lun& l : san.luns)
+        if (l.wwuln == text || (l.codeSet == 1 && strcasecmp(l.wwuln.c_str(), text.c_str()) == 0))
+            return &l;
+    return nullptr;
+}
+
+KDriveID driveId(const Drive& d)
+{
+    KDriveID id;
+    std::string name = d.id;
+    id.initDriveID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(name.size()),
+                   reinterpret_cast<unsigned char*>(name.data()));
+    return id;
+}
+
+KWwulnLunID driveSsdId(const Drive& d)
+{
+    KWwulnLunID id;
+    std::string name = d.serial;
+    id.initWwulnLunID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(name.size()),
+                      reinterpret_cast<unsigned char*>(name.data()));
+    return id;
+}
+
+std::string driveName(const KUniqueID& id)
+{
+    // Both drive and SSD identifiers hold a code set, a length, then the name.
+    const unsigned char* data = id.getData();
+    int32_t length;
+    std::memcpy(&length, data + 4, sizeof length);
+    if (length < 0 || length > PUniqueID::DATA_SIZE - 8)
+        return {};
+    return std::string(reinterpret_cast<const char*>(data + 8), static_cast<size_t>(length));
+}
+
+KClusterID clusterId(const std::string& id)
+{
+    KClusterID key;
+    key.initClusterID(id.c_str(), static_cast<unsigned>(id.size()));
+    return key;
+}
+
+std::string clusterName(const KClusterID& id)
+{
+    return std::string(reinterpret_cast<const char*>(id.getData()), static_cast<size_t>(id.getDataLength()));
+}
+
+bool parseAgentAddress(const std::string& text, PIpAddress& out, std::string& error)
+{
+    out.init();
+    std::string numeric = text == "localhost" ? "127.0.0.1" : text;
+    unsigned char bytes[16];
+    if (inet_pton(AF_INET, numeric.c_str(), bytes) == 1) {
+        out.setType(PIpAddress::IPV_SHORT_1);
+        out.setData(bytes, 4);
+    } else if (inet_pton(AF_INET6, numeric.c_str(), bytes) == 1) {
+        out.setType(PIpAddress::IPV_LONG_1);
+        out.setData(bytes, 16);
+    } else {
+        error = text.empty() ? "No remote agent address was given"
+                             : "\"" + text + "\" is not a numeric IPv4 or IPv6 address (host names are not looked up)";
+        return false;
+    }
+    char canonical[INET6_ADDRSTRLEN];
+    inet_ntop(out.getType() == PIpAddress::IPV_SHORT_1 ? AF_INET : AF_INET6, bytes, canonical, sizeof canonical);
+    out.setNumericText(canonical, "");
+    out.setInitText(text.c_str(), "");
+    out.setLookupText(text.c_str());
+    return true;
+}
+
+PIpAddress agentAddress(const std::string& agent)
+{
+    PIpAddress address;
+    std::string ignored;
+    if (!agent.empty())
+        parseAgentAddress(agent, address, ignored);
+    return address;
+}
+
+std::string agentText(const PIpAddress& address)
+{
+    return address.getType() == PIpAddress::IPV_NOT_SET ? std::string() : std::string(address.getNumericText());
+}
+
+KIsaAdapterPath adapterPath(const Adapter& a)
+{
+    KIsaAdapterPath path;
+    bool local = a.device >= 0;
+    path.init(a.id.value, local ? a.device : a.viaDevice, local, agentAddress(a.host), KIsaAdapterPath::ADAPTER_TYPE_1);
+    return path;
+}
+
+const Adapter* adapterForPath(const San& san, const KIsaAdapterPath& path)
+{
+    std::string host = agentText(path.ipAddrRemoteAgentHost());
+    for (const Adapter& a : san.adapters) {
+        if (a.host != host)
+            continue;
+        if (path.isLocalDevice() && a.device >= 0 && a.device == path.deviceInstanceForAccess())
+            return &a;
+        if (!path.isLocalDevice() && a.id.value == path.isaHbaId())
+            return &a;
+    }
+    // An identifier names its adapter however it is reached from this host.
+    for (const Adapter& a : san.adapters)
+        if (a.host == host && a.id.value == path.isaHbaId() && path.isaHbaId() != 0)
+            return &a;
+    return nullptr;
+}
+
+} // namespace sim

@@ -1,0 +1,50 @@
+// Conversions between the model's names and the identifier records that
+// cross the API: targets, LUN paths, WWULNs, drives, clusters, adapter paths
+// and agent addresses.
+#pragma once
+
+#include "model/View.h"
+
+#include "records/KIsaAdapterPath.h"
+#include "records/PIpAddress.h"
+#include "records/PUniqueID.h"
+
+#include <string>
+#include <vector>
+
+namespace sim {
+
+// Hexadecimal digits to bytes; false on any other character or an odd count.
+bool hexToBytes(const std::string& hex, std::vector<unsigned char>& out);
+std::string bytesToHex(const unsigned char* bytes, size_t length);
+
+PTargetID targetId(const Target& t);
+const Target* targetFor(const San& san, const PTargetID& id);
+
+PLunID lunId(const Target& t, const LunPath& p);
+bool pathFor(const San& san, const PLunID& id, PathRef& out);
+
+// The bytes of a LUN's WWULN as the adapter reports them.
+std::vector<unsigned char> wwulnBytes(const Lun& lun);
+KWwulnLunID wwulnId(const Lun& lun);
+const Lun* lunForWwuln(const San& san, const unsigned char* bytes, size_t length);
+const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id);
+
+KDriveID driveId(const Drive& d);
+KWwulnLunID driveSsdId(const Drive& d);
+std::string driveName(const KUniqueID& id);     // the name inside a drive or SSD identifier
+
+KClusterID clusterId(const std::string& id);
+std::string clusterName(const KClusterID& id);
+
+// Numeric IPv4, IPv6 or "localhost"; never a name lookup.
+bool parseAgentAddress(const std::string& text, PIpAddress& out, std::string& error);
+PIpAddress agentAddress(const std::string& agent);
+std::string agentText(const PIpAddress& address);   // "" for the local host
+
+KIsaAdapterPath adapterPath(const Adapter& a);
+// The adapter a path names: a device on its host, or an identifier reached
+// from that host. Null when there is none.
+const Adapter* adapterForPath(const San& san, const KIsaAdapterPath& path);
+
+} // namespace sim
