@@ -9,12 +9,7 @@ namespace {
 constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     commandRow(CmdAction::ACTION_ENABLE, CmdItem::ITEM_CACHE, TokenCmd::GROUP_CACHE),
     keywordRow(ModifierId::MODIFIER_MODE, TokenModifier::REQUIRED, TokenModifier::VALUE_REQUIRED),
-    keywordRow(ModifierId::MODIFIER_PROFILE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
-    keywordRow(ModifierId::MODIFIER_MAX_CACHE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
-    keywordRow(ModifierId::MODIFIER_MAX_READ, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
-    keywordRow(ModifierId::MODIFIER_MAX_WRITE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
-    keywordRow(ModifierId::MODIFIER_MIN_READ, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
-    keywordRow(ModifierId::MODIFIER_MIN_WRITE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    CACHE_SETTINGS_ROWS,
     LUN_SELECTOR_ROWS,
     keywordRow(ModifierId::MODIFIER_MIRROR, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
