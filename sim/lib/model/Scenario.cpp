@@ -1,5 +1,7 @@
 #include "model/Scenario.h"
 
+// Errors then name the place in the file where they were found.
+#define JSON_DIAGNOSTICS 1
 #include <nlohmann/json.hpp>
 
 #include <cinttypes>
@@ -84,10 +86,55 @@ NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Lun, wwuln, codeSet, type, sizeB
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(San, format, version, name, hosts, adapters, clusters, targets,
     initiators, luns, faults, nextLocalLun)
 
+namespace {
+
+// Default values of the elements of each list, by the list's field name.
+const nlohmann::json& elementDefaults()
+{
+    static const nlohmann::json defaults = {
+        {"hosts", Host{}}, {"adapters", Adapter{}}, {"ports", Port{}}, {"drives", Drive{}},
+        {"smart", SmartAttribute{}}, {"log", LogRecord{}}, {"clusters", Cluster{}}, {"targets", Target{}},
+        {"initiators", Initiator{}}, {"luns", Lun{}}, {"paths", LunPath{}}, {"lockedRanges", LockedRange{}},
+        {"faults", Fault{}},
+    };
+    return defaults;
+}
+
+// Leaves out every field that holds its default value, so that a scenario
+// shows what is particular about the SAN and stays small.
+void pruneDefaults(nlohmann::json& j, const nlohmann::json& defaults)
+{
+    for (auto it = j.begin(); it != j.end();) {
+        const std::string key = it.key();
+        if (!defaults.contains(key)) {
+            ++it;
+            continue;
+        }
+        const nlohmann::json& d = defaults.at(key);
+        if (*it == d) {
+            it = j.erase(it);
+            continue;
+        }
+        if (it->is_object() && d.is_object())
+            pruneDefaults(*it, d);
+        else if (it->is_array() && elementDefaults().contains(key))
+            for (nlohmann::json& element : *it)
+                if (element.is_object())
+                    pruneDefaults(element, elementDefaults().at(key));
+        ++it;
+    }
+}
+
+} // namespace
+
 std::string scenarioToText(const San& san)
 {
     nlohmann::json j = san;
-    return j.dump(2) + "\n";
+    nlohmann::json defaults = San{};
+    defaults.erase("format");   // the header stays, for readers to know the file
+    defaults.erase("version");
+    pruneDefaults(j, defaults);
+    return j.dump(1) + "\n";
 }
 
 namespace {
@@ -155,6 +202,9 @@ bool scenarioFromText(const std::string& text, const std::string& origin, San& o
         }
     } catch (const std::exception& e) {
         what = e.what();
+        // Keep the library's words, not its internal error number.
+        if (what.rfind("[json.exception.", 0) == 0 && what.find("] ") != std::string::npos)
+            what = what.substr(what.find("] ") + 2);
     }
     error = origin + ": " + what;
     return false;
