@@ -18,6 +18,9 @@ long long Backend::now() const
 
 void Backend::reportFailure(const std::string& error)
 {
+    if (error == lastFailure_)
+        return;
+    lastFailure_ = error;
     warning(error);
 }
 
@@ -39,6 +42,7 @@ const San* Backend::view()
         cached_ = std::move(san);
         cachedStamp_ = store_.stamp();
         haveCached_ = true;
+        lastFailure_.clear();
     }
     rules::settle(cached_, now());
     return &cached_;

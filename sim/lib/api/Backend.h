@@ -53,6 +53,7 @@ private:
     std::string cachedStamp_;
     bool haveCached_ = false;
     HMsgHandler* handler_ = nullptr;
+    std::string lastFailure_;   // said once, not again on every later call
 };
 
 } // namespace sim

@@ -94,7 +94,7 @@ TEST_F(StateStoreTest, RefusedChangeLeavesTheFileUntouched)
 TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
 {
     constexpr int kProcesses = 8;
-    constexpr int kToggles = 25;
+    constexpr int kToggles = 11;
     San start = generateSan(2, 12, 8);
     ASSERT_GE(start.luns.size(), static_cast<size_t>(kProcesses));
     start.adapters[0].log.clear();
