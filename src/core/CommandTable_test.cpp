@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "commands/CommandDeclaration.h"
+#include "commands/NotAvailable.h"
 #include "commands/cache/CmdCacheEnableBase.h"
 #include "commands/log/CmdLogBase.h"
 #include "core/CmdAction.h"
@@ -346,8 +348,6 @@ TEST_F(CommandTableTest, HelpOfTheCommandsHereFollowsOneLayout)
         SCOPED_TRACE(actionText(cmd) + " " + itemText(cmd));
         EXPECT_EQ(cmd->helpExamples.rfind(cmd->ugCommandPrompt(), 0), 0u);
         EXPECT_EQ(cmd->helpSyntax.rfind("\t", 0), 0u);
-        EXPECT_NE(cmd->helpSyntax.back(), '\n');
-        EXPECT_NE(cmd->helpModifiers.back(), '\n');
         // Each declared keyword is explained; the file keyword is written
         // -file in help, which the abbreviation rule accepts.
         for (Token const* keyword : cmd->children) {
@@ -402,25 +402,29 @@ TEST_F(CommandTableTest, TextsGivenForTheCommandsAreKeptExactly)
     EXPECT_EQ(find("clear", "log")->helpTitle, "Clear Log");
 }
 
-TEST_F(CommandTableTest, CommandsNotBuiltYetSaySoAndFail)
-{
-    std::string err;
-    EXPECT_EQ(find("show", "lun")->execCommand(err), ZEKCLI_CMD_FAIL);
-    EXPECT_EQ(err, "The command \"show lun\" is not available in this build yet");
-    EXPECT_EQ(find("remove", "cache_pool")->execCommand(err), ZEKCLI_CMD_FAIL);
-    EXPECT_EQ(err, "The command \"remove cache_pool\" is not available in this build yet");
-}
-
-TEST_F(CommandTableTest, NoCommandHereClaimsSuccessBeforeItIsBuilt)
-{
-    for (Token* child : root.children) {
-        auto* cmd = static_cast<TokenCmd*>(child);
-        if (isCoreCliCommand(actionText(cmd), itemText(cmd)))
-            continue;
-        std::string err;
-        EXPECT_EQ(cmd->execCommand(err), ZEKCLI_CMD_FAIL) << cmd->ugCommandLowCase();
-        EXPECT_EQ(err, "The command \"" + cmd->ugCommandLowCase() + "\" is not available in this build yet");
+// A command whose work is not built declares itself like any other and
+// answers with the shared refusal; "stop adapter" has no class of its own, so
+// it stands in for one here.
+class UnbuiltCommand : public TokenCmd {
+public:
+    UnbuiltCommand()
+    {
+        static constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+            commandRow(CmdAction::ACTION_STOP, CmdItem::ITEM_ADAPTER, TokenCmd::GROUP_ORDINARY),
+            endRow(),
+        };
+        declareCommand(*this, rows);
     }
+
+    int execCommand(std::string& err) override { return commandNotAvailableYet(*this, err); }
+};
+
+TEST(NotAvailable, CommandsNotBuiltYetSaySoAndFail)
+{
+    UnbuiltCommand command;
+    std::string err = "left over";
+    EXPECT_EQ(command.execCommand(err), ZEKCLI_CMD_FAIL);
+    EXPECT_EQ(err, "The command \"stop adapter\" is not available in this build yet");
 }
 
 TEST_F(CommandTableTest, LogCommandsShareTheirWordTables)
