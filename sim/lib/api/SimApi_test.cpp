@@ -335,7 +335,7 @@ TEST_F(SimApiTest, RestartAndFlushEndUnderAPinnedClock)
     int polls = 1;
     while (dev0->getAdapterInfo(info) != MHBA_S_OK && polls < 20)
         ++polls;
-    EXPECT_EQ(polls, 3);
+    EXPECT_EQ(polls, 2);
     EXPECT_STREQ(info.symbolicName, "zek-prod-a");
 
     PLunID cached = lunIdOn(kSpa, 0);
@@ -346,7 +346,7 @@ TEST_F(SimApiTest, RestartAndFlushEndUnderAPinnedClock)
         ASSERT_EQ(dev0->getCacheFlushProgress(cached, &running), MHBA_S_OK);
         ++polls;
     }
-    EXPECT_EQ(polls, 3);
+    EXPECT_EQ(polls, 2);
 }
 
 TEST_F(SimApiTest, CountersMoveWithTheClockAndClear)

@@ -11,8 +11,8 @@ namespace sim::rules {
 namespace {
 
 constexpr u64 MiB = 1024ull * 1024;
-constexpr u32 kPollsToFinish = 3;       // a pinned clock still ends a flush or a restart
-constexpr long long kRestartSeconds = 25;
+constexpr u32 kPollsToFinish = 2;       // a pinned clock still ends a flush or a restart
+constexpr long long kRestartSeconds = 12;
 constexpr long long kPurgeSeconds = 30;
 
 bool hasCapability(const Adapter& a, const std::string& name)
