@@ -2,6 +2,8 @@
 // drives, names and LUNs appear in output. Most of them are written as the
 // keyword that would address the object, so that a user can paste them back
 // onto a command line.
+#include <algorithm>
+
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "core/TokenCmd.h"
@@ -108,10 +110,15 @@ std::string TokenCmd::getDisplayText_Wwname(unsigned char const* name, int lengt
                                             std::string const& keyword, bool destination) const
 {
     std::string text = (destination ? "-dmdest_" : "-") + keyword + "=";
+    // A text name fills its field to the last byte when it is as long as the
+    // field, so it is read from a terminated copy of its own length.
+    std::string const bounded = name ? std::string(reinterpret_cast<char const*>(name), std::max(length, 0))
+                                     : std::string();
+    unsigned char const* const bytes = reinterpret_cast<unsigned char const*>(bounded.c_str());
     if (codeSet == PBase::WWULN_CODE_SET_BINARY)
-        text += PBase::wwulnToText(name, length, codeSet);
+        text += PBase::wwulnToText(bytes, length, codeSet);
     else if (codeSet == PBase::WWULN_CODE_SET_TEXT)
-        text += "\"" + PBase::wwulnToText(name, length, codeSet) + "\"";
+        text += "\"" + PBase::wwulnToText(bytes, length, codeSet) + "\"";
     return text;
 }
 
