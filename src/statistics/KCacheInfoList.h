@@ -13,7 +13,7 @@ class KCacheInfoList {
 public:
     static constexpr unsigned int MAX_ITEMS = 256;
 
-    enum OPERATION_TYPE {
+    enum OPERATION_TYPE : int32_t {
         OP_ADD = 0,
         OP_SUBTRACT = 1,
         OP_MULTIPLY = 2,
