@@ -40,6 +40,17 @@ Resolved resolve(TestCommand& command, SimulatedSan const& san, bool destination
     return result;
 }
 
+using Given = std::vector<std::pair<ModifierId::MODIFIER_ID, std::string>>;
+
+// A fresh command with these keywords typed, resolved on the adapter.
+Resolved resolveGiven(SimulatedSan const& san, Given const& given, bool destination, bool oneLunRequired)
+{
+    TestCommand command;
+    for (auto const& [id, value] : given)
+        command.give(id, value);
+    return resolve(command, san, destination, oneLunRequired);
+}
+
 PTargetID fcTarget(std::string const& text)
 {
     PTargetID target;
@@ -71,9 +82,7 @@ TEST(LunResolution, ANumberAloneListsItOnEveryTarget)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_NUMBER, "3");
-    Resolved const found = resolve(command, san, false, false);
+    Resolved const found = resolveGiven(san, {{ModifierId::MODIFIER_LUN_NUMBER, "3"}}, false, false);
     EXPECT_TRUE(found.ok) << found.err;
     EXPECT_EQ("", found.err);
     EXPECT_EQ((Paths{kT1Text + ":3", kT2Text + ":3"}), describe(found.luns));
@@ -114,10 +123,8 @@ TEST(LunResolution, ANameAndANumberThatDisagree)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_WWULN, kBinaryNamed);
-    command.give(ModifierId::MODIFIER_LUN_NUMBER, "4");
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(
+        san, {{ModifierId::MODIFIER_LUN_WWULN, kBinaryNamed}, {ModifierId::MODIFIER_LUN_NUMBER, "4"}}, false, true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("-lun_number=4 conflicts with other LUN Identifiers in the input", found.err);
 }
@@ -126,10 +133,9 @@ TEST(LunResolution, ANameAndADisagreeingIndexOfTheDestination)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_DMDEST_LUN_WWULN, kBinaryNamed);
-    command.give(ModifierId::MODIFIER_DMDEST_VPGINDEX, "2");
-    Resolved const found = resolve(command, san, true, true);
+    Resolved const found = resolveGiven(
+        san, {{ModifierId::MODIFIER_DMDEST_LUN_WWULN, kBinaryNamed}, {ModifierId::MODIFIER_DMDEST_VPGINDEX, "2"}},
+        true, true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("-dmdest_vpgindex=2 conflicts with other LUN Identifiers in the input", found.err);
 }
@@ -138,10 +144,9 @@ TEST(LunResolution, TwoKindsOfNameAreRefusedBeforeAnyQuestion)
 {
     SimulatedSan san("luns", kGatherAlwaysFails);
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_DMDEST_LUN_WWULN, "X");
-    command.give(ModifierId::MODIFIER_DMDEST_LUN_SERIAL, "Y");
-    Resolved const found = resolve(command, san, true, false);
+    Resolved const found = resolveGiven(
+        san, {{ModifierId::MODIFIER_DMDEST_LUN_WWULN, "X"}, {ModifierId::MODIFIER_DMDEST_LUN_SERIAL, "Y"}}, true,
+        false);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("Cannot use more than one of -lun_wwuln, -lun_serial, or -lun_any_wwuln", found.err);
 }
@@ -150,33 +155,21 @@ TEST(LunResolution, ATargetAloneIsNotOneLun)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_FC_TARGET, kT1);
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(san, {{ModifierId::MODIFIER_FC_TARGET, kT1}}, false, true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ(" LUN number is required for LUN:  \" -fc_target=" + kT1Text + "\"", found.err);
-}
-
-TEST(LunResolution, ADestinationTargetAloneIsNotOneLun)
-{
-    SimulatedSan san("luns");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_DMDEST_FC_TARGET, kT1);
-    command.give(ModifierId::MODIFIER_DMDEST_VPGINDEX, "1");
-    Resolved const found = resolve(command, san, true, true);
-    EXPECT_FALSE(found.ok);
-    EXPECT_EQ("Destination LUN:  \" -dmdest_fc_target=" + kT1Text + " -dmdest_vpgindex=1\"", found.err);
+    Resolved const destination = resolveGiven(
+        san, {{ModifierId::MODIFIER_DMDEST_FC_TARGET, kT1}, {ModifierId::MODIFIER_DMDEST_VPGINDEX, "1"}}, true, true);
+    EXPECT_FALSE(destination.ok);
+    EXPECT_EQ("Destination LUN:  \" -dmdest_fc_target=" + kT1Text + " -dmdest_vpgindex=1\"", destination.err);
 }
 
 TEST(LunResolution, AnIscsiTargetAndNumberNeedNoQuestion)
 {
     SimulatedSan san("luns", kGatherAlwaysFails);
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_IS_TARGET, kIscsi);
-    command.give(ModifierId::MODIFIER_LUN_NUMBER, "2");
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(
+        san, {{ModifierId::MODIFIER_IS_TARGET, kIscsi}, {ModifierId::MODIFIER_LUN_NUMBER, "2"}}, false, true);
     EXPECT_TRUE(found.ok) << found.err;
     ASSERT_EQ(1u, found.luns.size());
     EXPECT_EQ(PBase::VPGROUP_1, found.luns[0].vpgIndex());
@@ -216,59 +209,50 @@ TEST(LunResolution, PartialGatheringKeepsItsNoteAndGoesOn)
               found.err);
 }
 
-TEST(LunResolution, ANameRegisteredOnlyInBinaryForm)
+TEST(LunResolution, ANameRegisteredOnlyInBinaryFormOrAsText)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_WWULN, kBinaryNamed);
-    Resolved const found = resolve(command, san, false, true);
-    EXPECT_TRUE(found.ok) << found.err;
-    EXPECT_EQ((Paths{kT1Text + ":5"}), describe(found.luns));
-}
-
-TEST(LunResolution, ANameRegisteredAsText)
-{
-    SimulatedSan san("luns");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_WWULN, kTextNamed);
-    Resolved const found = resolve(command, san, false, true);
-    EXPECT_TRUE(found.ok) << found.err;
-    EXPECT_EQ((Paths{kT2Text + ":2"}), describe(found.luns));
+    Resolved const binary = resolveGiven(san, {{ModifierId::MODIFIER_LUN_WWULN, kBinaryNamed}}, false, true);
+    EXPECT_TRUE(binary.ok) << binary.err;
+    EXPECT_EQ((Paths{kT1Text + ":5"}), describe(binary.luns));
+    Resolved const text = resolveGiven(san, {{ModifierId::MODIFIER_LUN_WWULN, kTextNamed}}, false, true);
+    EXPECT_TRUE(text.ok) << text.err;
+    EXPECT_EQ((Paths{kT2Text + ":2"}), describe(text.luns));
+    Resolved const serial = resolveGiven(san, {{ModifierId::MODIFIER_LUN_SERIAL, "SERIAL-A05"}}, false, true);
+    EXPECT_TRUE(serial.ok) << serial.err;
+    EXPECT_EQ((Paths{kT1Text + ":5"}), describe(serial.luns));
 }
 
 TEST(LunResolution, AnUnknownName)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_SERIAL, "NO-SUCH-SERIAL");
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(san, {{ModifierId::MODIFIER_LUN_SERIAL, "NO-SUCH-SERIAL"}}, false, true);
     EXPECT_FALSE(found.ok);
     PLunsForOneNameID key;
     key.initLunsForOneNameID(PBase::LUN_NAME_SERIAL_NUMBER, "NO-SUCH-SERIAL");
     EXPECT_EQ("LUN not found for \"" + key.displayText() + "\"", found.err);
 }
 
-TEST(LunResolution, ASerialNumber)
+TEST(LunResolution, NamesLongerThanTheIndexHolds)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_SERIAL, "SERIAL-A05");
-    Resolved const found = resolve(command, san, false, true);
-    EXPECT_TRUE(found.ok) << found.err;
-    EXPECT_EQ((Paths{kT1Text + ":5"}), describe(found.luns));
+    std::string const longName(300, 'N');
+    Resolved const wwuln = resolveGiven(san, {{ModifierId::MODIFIER_LUN_WWULN, longName}}, false, true);
+    EXPECT_FALSE(wwuln.ok);
+    EXPECT_EQ("Supplied WWULN is too long:  \"" + longName + "\"", wwuln.err);
+    Resolved const serial = resolveGiven(san, {{ModifierId::MODIFIER_LUN_SERIAL, longName}}, false, true);
+    EXPECT_FALSE(serial.ok);
+    EXPECT_EQ("Supplied serial number is too long:  \"" + longName + "\"", serial.err);
 }
 
 TEST(LunResolution, AnAdapterThatCannotLookUpSerialNumbers)
 {
     SimulatedSan san("luns", R"([{"adapter": "A0", "operation": "scanAll", "code": 1003, "once": false}])");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_SERIAL, "SERIAL-A05");
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(san, {{ModifierId::MODIFIER_LUN_SERIAL, "SERIAL-A05"}}, false, true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("Use of serial number to identify LUNs is not supported on this ZEK", found.err);
 }
@@ -277,10 +261,8 @@ TEST(LunResolution, AFailedNameScanGivesItsCode)
 {
     SimulatedSan san("luns", R"([{"adapter": "A0", "operation": "scanTarget", "code": 1206, "once": false}])");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_WWULN, kBinaryNamed);
-    command.give(ModifierId::MODIFIER_FC_TARGET, kT1);
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(
+        san, {{ModifierId::MODIFIER_LUN_WWULN, kBinaryNamed}, {ModifierId::MODIFIER_FC_TARGET, kT1}}, false, true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("Error attempting to find LUN using WWULN, (1206)", found.err);
 }
@@ -339,9 +321,7 @@ TEST(LunResolution, SeveralLunsWhereOneIsWanted)
 {
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    TestCommand command;
-    command.give(ModifierId::MODIFIER_LUN_NUMBER, "3");
-    Resolved const found = resolve(command, san, false, true);
+    Resolved const found = resolveGiven(san, {{ModifierId::MODIFIER_LUN_NUMBER, "3"}}, false, true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("Multiple Luns found for  -lun_number=3\n"
               "    -lun_number=3 -fc_target=" +
