@@ -402,29 +402,19 @@ std::string SimAdapter::capture(const San& san, const Adapter& a) const
     return text;
 }
 
-int SimAdapter::copyFile(const std::string& from, const std::string& to)
+int SimAdapter::writeFile(const std::string& file, const std::string& text)
 {
-    std::string text, error;
-    if (!readTextFile(from, text, error)) {
-        backend_.warning(error);
-        return code::FileError;
-    }
-    if (!writeTextFileAtomically(to, text, error)) {
-        backend_.warning(error);
-        return code::FileError;
-    }
-    return code::Ok;
+    std::string error;
+    if (writeTextFileAtomically(file, text, error))
+        return code::Ok;
+    backend_.warning(error);
+    return code::FileError;
 }
 
 e_MHBA_RETURN SimAdapter::saveCaptureFile(const std::string& file)
 {
     return asReturn(withAdapter("saveCaptureFile", [&](const San& san, const Adapter& a) {
-        std::string error;
-        if (!writeTextFileAtomically(file, capture(san, a), error)) {
-            backend_.warning(error);
-            return code::FileError;
-        }
-        return code::Ok;
+        return writeFile(file, capture(san, a));
     }));
 }
 
@@ -432,12 +422,7 @@ e_MHBA_RETURN SimAdapter::saveFruFile(const std::string& file)
 {
     return asReturn(withAdapter("saveFruFile", [&](const San&, const Adapter& a) {
         std::string text = "serial=" + a.serialNumber + "\nproduct=" + a.productName + "\nhw=" + a.hwVersion + "\n";
-        std::string error;
-        if (!writeTextFileAtomically(file, text, error)) {
-            backend_.warning(error);
-            return code::FileError;
-        }
-        return code::Ok;
+        return writeFile(file, text);
     }));
 }
 
@@ -483,12 +468,7 @@ e_MHBA_RETURN SimAdapter::saveCacheDump(int, const std::string& path)
                     + std::to_string(l.cache.dirtyBytes) + " bytes, locked ranges "
                     + std::to_string(l.cache.lockedRanges.size()) + "\n";
         }
-        std::string error;
-        if (!writeTextFileAtomically(path, text, error)) {
-            backend_.warning(error);
-            return code::FileError;
-        }
-        return code::Ok;
+        return writeFile(path, text);
     }));
 }
 
@@ -534,12 +514,7 @@ e_MHBA_RETURN SimAdapter::getFile(const char* localFile, const char* name, bool 
     }
     if (rc != code::Ok)
         return asReturn(rc);
-    std::string error;
-    if (!writeTextFileAtomically(localFile, content, error)) {
-        backend_.warning(error);
-        return asReturn(code::FileError);
-    }
-    return MHBA_S_OK;
+    return asReturn(writeFile(localFile, content));
 }
 
 e_MHBA_RETURN SimAdapter::putFile(const char* localFile, const char* name, bool clearFirst)

@@ -155,7 +155,7 @@ private:
     using LunRule = std::function<int(San&, long long, const PathRef&)>;
     int applyToLun(const char* operation, const PLunID& lun, const LunRule& rule, bool keepAlways = false);
     int applyToWwuln(const char* operation, const KWwulnLunID& id, bool viaPrimary);
-    int copyFile(const std::string& from, const std::string& to);
+    int writeFile(const std::string& file, const std::string& text);
     void fillLun(SimLun& lun, const San& san, const Adapter& a, const VisiblePath& p);
     e_MHBA_RETURN refreshLun(SimLun& lun);
     int gatherLunsOf(const San& san, const Adapter& a, SimTarget& target);

@@ -17,13 +17,6 @@ constexpr u64 kSanOffline = 0x2000001B32A10F00ull;
 constexpr u64 kRemote = 0x2000001B32B20100ull;
 constexpr const char* kAgent = "127.0.10.1";
 
-std::string wwn(u64 value)
-{
-    char buf[24];
-    std::snprintf(buf, sizeof buf, "%016llX", static_cast<unsigned long long>(value));
-    return buf;
-}
-
 Host localHost()
 {
     Host h;
@@ -122,8 +115,8 @@ Target fcTarget(const std::string& name, u64 wwpn, u64 wwnn, u32 portId, std::ve
 {
     Target t;
     t.name = name;
-    t.wwpn = wwn(wwpn);
-    t.wwnn = wwn(wwnn);
+    t.wwpn = hex16(wwpn);
+    t.wwnn = hex16(wwnn);
     t.portId = portId;
     t.ports = std::move(ports);
     return t;
@@ -267,14 +260,21 @@ std::vector<Initiator> initiators()
 
 } // namespace
 
+std::string hex16(u64 value)
+{
+    char buf[24];
+    std::snprintf(buf, sizeof buf, "%016llX", static_cast<unsigned long long>(value));
+    return buf;
+}
+
 Port makePort(u64 adapterId, int index)
 {
     Port p;
     u64 base = adapterId & 0x0000FFFFFFFFFFFFull;
-    p.wwnn = wwn(0x2000000000000000ull | base);
-    p.wwpn = wwn((0x2100000000000000ull + (static_cast<u64>(index) << 48)) | base);
+    p.wwnn = hex16(0x2000000000000000ull | base);
+    p.wwpn = hex16((0x2100000000000000ull + (static_cast<u64>(index) << 48)) | base);
     p.portId = 0x010000u + static_cast<u32>((adapterId >> 8) & 0xFF) * 16 + static_cast<u32>(index);
-    p.sfp.serialNumber = "SF" + wwn(base).substr(8) + std::to_string(index);
+    p.sfp.serialNumber = "SF" + hex16(base).substr(8) + std::to_string(index);
     return p;
 }
 
@@ -282,9 +282,9 @@ Drive makeDrive(u64 adapterId, int index, u64 sizeBytes, bool configured)
 {
     Drive d;
     char id[40];
-    std::snprintf(id, sizeof id, "SSD%d-%s", index, wwn(adapterId).substr(8).c_str());
+    std::snprintf(id, sizeof id, "SSD%d-%s", index, hex16(adapterId).substr(8).c_str());
     d.id = id;
-    d.serial = "S" + wwn(adapterId * 16 + static_cast<u64>(index)).substr(4);
+    d.serial = "S" + hex16(adapterId * 16 + static_cast<u64>(index)).substr(4);
     d.sizeBytes = sizeBytes;
     d.configured = configured;
     d.smart = smartAttributes(index * 3 + 2);

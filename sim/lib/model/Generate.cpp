@@ -9,13 +9,6 @@ namespace sim {
 
 namespace {
 
-std::string hex16(u64 value)
-{
-    char buf[24];
-    std::snprintf(buf, sizeof buf, "%016llX", static_cast<unsigned long long>(value));
-    return buf;
-}
-
 Host generatedHost()
 {
     Host h;

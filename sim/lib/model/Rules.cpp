@@ -64,6 +64,15 @@ int ownCachedLun(San& san, u64 adapter, const PathRef& path, long long now, Lun*
     }
 }
 
+// Runs `change` on a LUN that this adapter caches; otherwise its refusal.
+template <class Change>
+int onOwnCachedLun(San& san, u64 adapter, const PathRef& path, long long now, Change&& change)
+{
+    Lun* lun;
+    int rc = ownCachedLun(san, adapter, path, now, lun);
+    return rc == code::Ok ? change(*lun) : rc;
+}
+
 int checkWindows(const CacheRequest& req)
 {
     if (req.minRead > req.maxRead || req.minWrite > req.maxWrite)
@@ -293,35 +302,36 @@ int enableCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& 
 int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, bool useDefaults,
                 long long now)
 {
-    Lun* lun;
-    int rc = ownCachedLun(san, adapter, path, now, lun);
-    if (rc != code::Ok)
-        return rc;
-    Adapter* a = findAdapter(san, adapter);
-    CacheSettings& c = lun->cache;
-    int mode = req.mode == 0 ? c.mode : req.mode;   // no mode keeps the present one
-    if (mode < 1 || mode > 6 || req.profile < 0 || req.profile > 6)
-        return code::InvalidArgument;
-    if (mode != c.mode && (mode == 2 || mode == 5) && !hasCapability(*a, "WRITE_BACK_CACHE"))
-        return code::NotSupported;
-    if (useDefaults) {
-        c.minRead = kDefaultMinRead;
-        c.maxRead = kDefaultMaxRead;
-        c.minWrite = kDefaultMinWrite;
-        c.maxWrite = kDefaultMaxWrite;
-        c.maxCacheBytes = 0;
+    return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
+        Adapter* a = findAdapter(san, adapter);
+        CacheSettings& c = lun.cache;
+        int mode = req.mode == 0 ? c.mode : req.mode;   // no mode keeps the present one
+        if (mode < 1 || mode > 6 || req.profile < 0 || req.profile > 6)
+            return code::InvalidArgument;
+        if (mode != c.mode && (mode == 2 || mode == 5) && !hasCapability(*a, "WRITE_BACK_CACHE"))
+            return code::NotSupported;
+        if (useDefaults) {
+            c.minRead = kDefaultMinRead;
+            c.maxRead = kDefaultMaxRead;
+            c.minWrite = kDefaultMinWrite;
+            c.maxWrite = kDefaultMaxWrite;
+            c.maxCacheBytes = 0;
+            return code::Ok;
+        }
+        int rc = checkWindows(req);
+        if (rc == code::Ok)
+            rc = checkMirror(san, adapter, req.mirrorAdapter, now);
+        if (rc != code::Ok)
+            return rc;
+        c.mode = mode;
+        c.profile = req.profile;
+        applyWindows(c, req);
+        if (req.mirrorAdapter != c.mirrorAdapter.value || !c.mirrored)
+            applyMirror(c, req.mirrorAdapter);
+        if (mode == 1 || mode == 3 || mode == 4)
+            c.dirtyBytes = 0;           // leaving write-back writes the dirty data out
         return code::Ok;
-    }
-    if ((rc = checkWindows(req)) != code::Ok || (rc = checkMirror(san, adapter, req.mirrorAdapter, now)) != code::Ok)
-        return rc;
-    c.mode = mode;
-    c.profile = req.profile;
-    applyWindows(c, req);
-    if (req.mirrorAdapter != c.mirrorAdapter.value || !c.mirrored)
-        applyMirror(c, req.mirrorAdapter);
-    if (mode == 1 || mode == 3 || mode == 4)
-        c.dirtyBytes = 0;           // leaving write-back writes the dirty data out
-    return code::Ok;
+    });
 }
 
 int disableCacheByWwuln(San& san, u64 adapter, const std::string& wwuln, bool viaClusterPrimary, long long now)
@@ -348,17 +358,15 @@ int disableCacheByWwuln(San& san, u64 adapter, const std::string& wwuln, bool vi
 
 int startFlush(San& san, u64 adapter, const PathRef& path, long long now)
 {
-    Lun* lun;
-    int rc = ownCachedLun(san, adapter, path, now, lun);
-    if (rc != code::Ok)
-        return rc;
-    if (!lun->online)
-        return code::LunGone;
-    if (!lun->cache.flushStarted) {
-        lun->cache.flushStarted = now;
-        lun->cache.flushPolls = 0;
-    }
-    return code::Ok;
+    return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
+        if (!lun.online)
+            return code::LunGone;
+        if (!lun.cache.flushStarted) {
+            lun.cache.flushStarted = now;
+            lun.cache.flushPolls = 0;
+        }
+        return code::Ok;
+    });
 }
 
 int flushProgress(San& san, u64 adapter, const PathRef& path, bool& inProgress, long long now)
@@ -380,48 +388,42 @@ int flushProgress(San& san, u64 adapter, const PathRef& path, bool& inProgress, 
 
 int lockRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 size, long long now)
 {
-    Lun* lun;
-    int rc = ownCachedLun(san, adapter, path, now, lun);
-    if (rc != code::Ok)
-        return rc;
-    u64 blocks = lun->sizeBytes / 512;
-    if (size == 0 || size > 0xFFFFFFFFull || start >= blocks || size > blocks - start)
-        return code::InvalidArgument;
-    auto& ranges = lun->cache.lockedRanges;
-    LockedRange r{start, static_cast<u32>(size)};
-    if (std::find(ranges.begin(), ranges.end(), r) != ranges.end())
+    return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
+        u64 blocks = lun.sizeBytes / 512;
+        if (size == 0 || size > 0xFFFFFFFFull || start >= blocks || size > blocks - start)
+            return code::InvalidArgument;
+        auto& ranges = lun.cache.lockedRanges;
+        LockedRange r{start, static_cast<u32>(size)};
+        if (std::find(ranges.begin(), ranges.end(), r) != ranges.end())
+            return code::Ok;
+        if (ranges.size() >= 16)
+            return code::TooManyLockedRanges;
+        ranges.push_back(r);
         return code::Ok;
-    if (ranges.size() >= 16)
-        return code::TooManyLockedRanges;
-    ranges.push_back(r);
-    return code::Ok;
+    });
 }
 
 int unlockRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 size, long long now)
 {
-    Lun* lun;
-    int rc = ownCachedLun(san, adapter, path, now, lun);
-    if (rc != code::Ok)
-        return rc;
-    auto& ranges = lun->cache.lockedRanges;
-    auto it = std::find(ranges.begin(), ranges.end(), LockedRange{start, static_cast<u32>(size)});
-    if (size > 0xFFFFFFFFull || it == ranges.end())
-        return code::ObjectNotFound;
-    ranges.erase(it);
-    return code::Ok;
+    return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
+        auto& ranges = lun.cache.lockedRanges;
+        auto it = std::find(ranges.begin(), ranges.end(), LockedRange{start, static_cast<u32>(size)});
+        if (size > 0xFFFFFFFFull || it == ranges.end())
+            return code::ObjectNotFound;
+        ranges.erase(it);
+        return code::Ok;
+    });
 }
 
 int invalidateRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 end, long long now)
 {
-    Lun* lun;
-    int rc = ownCachedLun(san, adapter, path, now, lun);
-    if (rc != code::Ok)
-        return rc;
-    if (end < start)
-        return code::InvalidArgument;
-    if (start == 0 && end == 0)
-        lun->cache.dirtyBytes = 0;  // the whole LUN
-    return code::Ok;
+    return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
+        if (end < start)
+            return code::InvalidArgument;
+        if (start == 0 && end == 0)
+            lun.cache.dirtyBytes = 0;  // the whole LUN
+        return code::Ok;
+    });
 }
 
 int clearReservation(San& san, u64 adapter, const PathRef& path, long long now)

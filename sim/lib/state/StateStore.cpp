@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -64,6 +65,16 @@ bool makeParentDirectory(const std::string& path, std::string& error)
         return false;
     }
     return true;
+}
+
+// The exclusive lock that serialises every change of the state.
+bool lockState(const std::string& path, std::unique_ptr<FileLock>& lock, std::string& error)
+{
+    lock = std::make_unique<FileLock>(path + ".lock", LOCK_EX);
+    if (lock->held())
+        return true;
+    error = systemError("cannot lock", path + ".lock");
+    return false;
 }
 
 bool fileExists(const std::string& path)
@@ -177,11 +188,9 @@ bool StateStore::ensureExists(std::string& error)
         return true;
     if (!makeParentDirectory(path_, error))
         return false;
-    FileLock lock(path_ + ".lock", LOCK_EX);
-    if (!lock.held()) {
-        error = systemError("cannot lock", path_ + ".lock");
+    std::unique_ptr<FileLock> lock;
+    if (!lockState(path_, lock, error))
         return false;
-    }
     if (fileExists(path_))
         return true;    // another process made it while we waited
     return writeFile(defaultSan(), error);
@@ -198,11 +207,9 @@ bool StateStore::update(const std::function<bool(San&)>& change, std::string& er
 {
     if (!ensureExists(error))
         return false;
-    FileLock lock(path_ + ".lock", LOCK_EX);
-    if (!lock.held()) {
-        error = systemError("cannot lock", path_ + ".lock");
+    std::unique_ptr<FileLock> lock;
+    if (!lockState(path_, lock, error))
         return false;
-    }
     San san;
     if (!readFile(san, error))
         return false;
@@ -215,11 +222,9 @@ bool StateStore::replace(const San& san, std::string& error)
 {
     if (!makeParentDirectory(path_, error))
         return false;
-    FileLock lock(path_ + ".lock", LOCK_EX);
-    if (!lock.held()) {
-        error = systemError("cannot lock", path_ + ".lock");
+    std::unique_ptr<FileLock> lock;
+    if (!lockState(path_, lock, error))
         return false;
-    }
     return writeFile(san, error);
 }
 
