@@ -206,6 +206,11 @@ void SimAdapter::fillLun(SimLun& lun, const San& san, const Adapter& a, const Vi
     fillLunInfo(san, *p.lun, a, lun.info);
     if (!p.target->online)
         lun.info.ui32LunState &= ~1u;   // no way to reach it through this target
+    if (backend_.inDemonstration()) {
+        // A saved image does not carry the firmware's default sizes.
+        lun.info.ui32DefaultMaxRead = lun.info.ui32DefaultMinRead = 0;
+        lun.info.ui32DefaultMaxWrite = lun.info.ui32DefaultMinWrite = 0;
+    }
 }
 
 e_MHBA_RETURN SimAdapter::refreshLun(SimLun& lun)

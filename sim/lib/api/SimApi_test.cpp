@@ -400,6 +400,13 @@ TEST_F(SimApiTest, DemonstrationRunsAreNeverWrittenBack)
     KIsaAdapterPath path = devicePath(0);
     ASSERT_EQ(shown.checkAdapterPath(path), MHBA_S_OK);
     HIsaAdapter* dev0 = shown.getAdapters()->find(path);
+    MHbaReturnBuffer first;
+    ASSERT_EQ(dev0->getTargetsAndInitiators(&first), MHBA_S_OK);
+    PTargetID spa;
+    spa.initFcTargetIDFromString(kSpa);
+    ASSERT_EQ(dev0->getLunsForSpecificTarget(dev0->getTargets()->find(spa), &first), MHBA_S_OK);
+    EXPECT_EQ(dev0->getLuns()->find(lunIdOn(kSpa, 1))->getLunInfo()->ui32DefaultMaxRead, 0u)
+        << "a saved image has no firmware defaults";
     ASSERT_EQ(dev0->enableCache(lunIdOn(kSpa, 1), 1, 1, 0, 0, 0, 0, 0, 0), MHBA_S_OK);
     EXPECT_EQ(dev0->enableCache(lunIdOn(kSpa, 1), 1, 1, 0, 0, 0, 0, 0, 0), MHBA_E_LUN_ALREADY_CACHED);
     struct stat after;
