@@ -139,10 +139,15 @@ const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id)
 
 KDriveID driveId(const Drive& d)
 {
+    // A drive named by hexadecimal digits is a binary world-wide name, as the
+    // command line reads such a name; any other name is text.
     KDriveID id;
-    std::string name = d.id;
-    id.initDriveID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(name.size()),
-                   reinterpret_cast<unsigned char*>(name.data()));
+    std::vector<unsigned char> bytes;
+    bool binary = hexToBytes(d.id, bytes) && !bytes.empty();
+    if (!binary)
+        bytes.assign(d.id.begin(), d.id.end());
+    id.initDriveID(binary ? PBase::WWULN_CODE_SET_BINARY : PBase::WWULN_CODE_SET_TEXT, static_cast<int>(bytes.size()),
+                   bytes.data());
     return id;
 }
 
@@ -159,10 +164,13 @@ std::string driveName(const KUniqueID& id)
 {
     // Both drive and SSD identifiers hold a code set, a length, then the name.
     const unsigned char* data = id.getData();
-    int32_t length;
+    int32_t codeSet, length;
+    std::memcpy(&codeSet, data, sizeof codeSet);
     std::memcpy(&length, data + 4, sizeof length);
     if (length < 0 || length > PUniqueID::DATA_SIZE - 8)
         return {};
+    if (codeSet == PBase::WWULN_CODE_SET_BINARY)
+        return bytesToHex(data + 8, static_cast<size_t>(length));
     return std::string(reinterpret_cast<const char*>(data + 8), static_cast<size_t>(length));
 }
 

@@ -22,6 +22,7 @@
 #include "statistics/KCacheInfoList.h"
 
 #include <cstring>
+#include <strings.h>
 
 namespace sim {
 
@@ -355,7 +356,7 @@ e_MHBA_RETURN SimAdapter::getSmartDriveInfo(const KDriveID& drive)
     std::string name = driveName(drive);
     return asReturn(withAdapter("getSmartDriveInfo", [&](const San&, const Adapter& a) {
         for (const Drive& d : a.drives)
-            if (d.id == name) {
+            if (strcasecmp(d.id.c_str(), name.c_str()) == 0) {
                 if (!d.online)
                     return code::AdapterNotResponding;
                 fillDriveInfo(a, d, true, held->info);

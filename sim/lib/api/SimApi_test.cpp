@@ -4,6 +4,7 @@
 #include "api/Ids.h"
 
 #include "records/KAdapterGroupExtendedLunInfo.h"
+#include "records/KDriveInfo.h"
 #include "records/KHostPcieInfo.h"
 #include "records/KIsaAdapterInfo.h"
 #include "records/KLibraryVersionInfo.h"
@@ -442,4 +443,35 @@ TEST_F(SimApiTest, CodesHaveTexts)
     EXPECT_EQ(api->returnCodeToText(77777), "Unknown return code 77777");
     EXPECT_FALSE(api->isFailure(2));
     EXPECT_TRUE(api->isFailure(1020));
+}
+
+TEST_F(SimApiTest, DrivesJoinAndLeaveThePool)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    MHbaReturnBuffer first;
+    ASSERT_EQ(dev0->getDrivesWithErrorDetails(&first), MHBA_S_OK);
+    ASSERT_EQ(dev0->getDrives()->items.size(), 4u);
+    ASSERT_EQ(dev0->getDrivePools()->items.size(), 1u);
+    EXPECT_EQ(dev0->getDrivePools()->items[0]->getDriveIds()->count(), 3u);
+
+    // The free drive, named as a user types a world-wide name.
+    KDriveID free = *dev0->getDrives()->items[3]->getDriveId();
+    EXPECT_EQ(dev0->getDrives()->items[3]->getDriveInfo()->driveStatus, KDriveInfo::DRIVE_STATUS_UNCONFIGURED);
+    KDriveID typed;
+    unsigned char wwn[8];
+    unsigned count = 0;
+    ASSERT_TRUE(PBase::textToWwname(count, wwn, sizeof wwn, free.displayText()));
+    typed.initDriveID(PBase::WWULN_CODE_SET_BINARY, static_cast<int>(count), wwn);
+    EXPECT_TRUE(dev0->getDrives()->contains(typed));
+    ASSERT_EQ(dev0->addDriveToPool(typed), MHBA_S_OK);
+    EXPECT_EQ(dev0->addDriveToPool(typed), MHBA_E_INVALID_ARG);
+    EXPECT_EQ(dev0->getSmartDriveInfo(typed), MHBA_S_OK);
+    EXPECT_EQ(dev0->getDrives()->find(typed)->getDriveInfo()->smartInfo.attributeCount, 7u);
+
+    // The same drive by its SSD identifier, always text, as the drive is shown.
+    std::string text = free.displayText();
+    KWwulnLunID ssd;
+    ssd.initWwulnLunID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(text.size()),
+                       reinterpret_cast<unsigned char*>(text.data()));
+    EXPECT_EQ(dev0->removeDriveFromPoolBySsdId(ssd), MHBA_S_OK);
 }

@@ -281,9 +281,8 @@ Port makePort(u64 adapterId, int index)
 Drive makeDrive(u64 adapterId, int index, u64 sizeBytes, bool configured)
 {
     Drive d;
-    char id[40];
-    std::snprintf(id, sizeof id, "SSD%d-%s", index, hex16(adapterId).substr(8).c_str());
-    d.id = id;
+    // A world-wide name, as SSDs carry: vendor prefix, adapter, slot.
+    d.id = hex16(0x5000C50000000000ull | ((adapterId & 0xFFFFFFFFull) << 8) | static_cast<u64>(index & 0xFF));
     d.serial = "S" + hex16(adapterId * 16 + static_cast<u64>(index)).substr(4);
     d.sizeBytes = sizeBytes;
     d.configured = configured;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <strings.h>
 
 namespace sim::rules {
 
@@ -185,10 +186,22 @@ bool isOwner(const Lun& lun, u64 adapter)
     return lun.local && lun.localInfo.owner.value == adapter;
 }
 
+// A drive name as a user types it: the world-wide name in either case, with
+// or without the separators it is shown with.
+std::string plainDriveName(const std::string& name)
+{
+    std::string plain;
+    for (char c : name)
+        if (c != '-' && c != ':' && c != ' ')
+            plain += c;
+    return plain;
+}
+
 Drive* findDrive(Adapter& a, const std::string& id)
 {
+    std::string wanted = plainDriveName(id);
     for (Drive& d : a.drives)
-        if (d.id == id || d.serial == id)
+        if (strcasecmp(plainDriveName(d.id).c_str(), wanted.c_str()) == 0 || d.serial == id)
             return &d;
     return nullptr;
 }
