@@ -1,8 +1,15 @@
 #include "commands/lun/CmdLunModify.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/lun/LunCommandSupport.h"
+#include "core/ZekcliReturn.h"
+#include "records/KIsaAdapterPath.h"
+#include "records/KLunInfo.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -15,6 +22,19 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     LUN_SELECTOR_ROWS,
     endRow(),
 };
+
+
+// The largest LUN the adapter can present: 1000 gigabytes.
+constexpr unsigned long long kLargestLunBytes = 0xFA00000000ull;
+constexpr long long kLargestLunGigabytes = static_cast<long long>(kLargestLunBytes >> 30);
+
+// An SSD LUN that another adapter presents through this one is that
+// adapter's to change; a thin-provisioning controller LUN is not such a LUN.
+bool belongsToAnotherAdapter(KLunInfo const& info)
+{
+    return info.isLunState(KLunInfo::LUN_STATE_STORAGE_MEDIA_SSD) && info.isLunState(KLunInfo::LUN_STATE_REMOTE) &&
+           !info.isLunState(KLunInfo::LUN_STATE_TP_CONTROLLER_LUN);
+}
 
 } // namespace
 
@@ -43,5 +63,124 @@ CmdLunModify::CmdLunModify()
 
 int CmdLunModify::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    err.clear();
+    std::vector<PLunID> ids;
+    if (!getLunIdFromCommandLine(addressed.adapter, false, true, ids, err))
+        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = checkLunTargetKeywords(*this, err))
+        return rc;
+    PLunID const lun = ids.front();
+
+    HLun* const held = findLunGatheringIfNeeded(addressed.adapter, lun);
+    if (!held) {
+        err.clear();
+        return MHBA_E_OBJECT_NOT_FOUND;
+    }
+    if (!held->getLunInfo()->isLunInfoValid())
+        if (int const rc = held->refreshLunInfo()) {
+            err.clear();
+            return rc;
+        }
+    KLunInfo const info = *held->getLunInfo();
+    if (belongsToAnotherAdapter(info)) {
+        err.clear();
+        return MHBA_E_LUN_NOT_APPLICABLE;
+    }
+
+    LunChange change;
+    if (int const rc = readChange(info, change, err))
+        return rc;
+    // Naming the mirror may have scanned again, which renews the library's objects.
+    HIsaAdapter* const adapter = g_pHbaMgmtApi->getAdapters()->find(addressed.path);
+    if (!adapter)
+        return MHBA_E_ADAPTER_NOT_IN_COLLECTION;
+    if (!displayIpAddress(adapter, err))
+        return ZEKCLI_OUTPUT_FAIL;
+
+    int rc = 0;
+    if (change.size)
+        rc = adapter->modifyLun(lun, gigabytesToBytes(change.gigabytes), change.newName);
+    else if (change.name)
+        rc = adapter->modifyLun(lun, info.ui64LunSizeBytes, change.newName);
+    else if (change.mirror)
+        rc = adapter->setLunMirror(lun, kMirrorTypeMirror, change.mirrorAdapter);
+    else
+        rc = adapter->setLunMirror(lun, kMirrorTypeNone, change.mirrorAdapter);
+    if (g_pHbaMgmtApi->isFailure(rc))
+        return rc;
+
+    CommandReport report;
+    report.banner = false;
+    report.text = "Successfully modified LUN  " + lun.targetID().displayText() +
+                  " -lun_number=" + PBase::numberToText(lun.lunNumber()) + "\n";
+    report.resultCode = static_cast<e_MHBA_RETURN>(rc);
+    return finishCommand(*this, adapter, report, err);
+}
+
+int CmdLunModify::readChange(KLunInfo const& info, LunChange& change, std::string& err)
+{
+    TokenModifierString const* const size = findModifier(ModifierId::MODIFIER_SIZE, err);
+    if (!size)
+        return ZEKCLI_PARSE_FAIL;
+    change.size = keywordGiven(size);
+    change.gigabytes = static_cast<long long>(info.ssdLunInfo.ui64SizeBytes >> 30);
+    if (change.size && !size->value.empty())
+        change.gigabytes = decimalValue(size->value);
+    if (change.size && change.gigabytes < 1) {
+        err = "Size of new LUN must be at least 1GB";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    if (change.size && change.gigabytes > kLargestLunGigabytes) {
+        err = "Insufficient storage resources -- size of new LUN must be " +
+              PBase::longlongToMByteText(kLargestLunBytes) + " or less";
+        return ZEKCLI_PARSE_FAIL;
+    }
+
+    TokenModifierString const* const name = findModifier(ModifierId::MODIFIER_NAME, err);
+    if (!name)
+        return ZEKCLI_PARSE_FAIL;
+    change.name = keywordGiven(name);
+    change.newName = change.name ? name->value : PBase::charFieldToText(info.ssdLunInfo.szSymbolicName);
+
+    TokenModifierString const* const mirror = findModifier(ModifierId::MODIFIER_MIRROR, err);
+    if (!mirror)
+        return ZEKCLI_PARSE_FAIL;
+    change.mirror = keywordGiven(mirror);
+    if (change.mirror && mirror->value.empty()) {
+        err = "-mirror requires a value";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    KIsaAdapterPath mirrorPath;
+    if (int const rc = selectAdapterFromKeyword(ModifierId::MODIFIER_MIRROR, mirrorPath, err))
+        return rc;
+    change.mirrorAdapter = mirrorPath.isaHbaId();
+
+    TokenModifierString const* const removeMirror = findModifier(ModifierId::MODIFIER_REMOVE_MIRROR, err);
+    if (!removeMirror)
+        return ZEKCLI_PARSE_FAIL;
+    change.removeMirror = keywordGiven(removeMirror);
+    return checkCombination(change, err);
+}
+
+int CmdLunModify::checkCombination(LunChange const& change, std::string& err)
+{
+    if (change.mirror && change.removeMirror) {
+        err += "-mirror and -remove_mirror keywords cannot be combined";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    bool const sizeOrName = change.size || change.name;
+    bool const mirrorChange = change.mirror || change.removeMirror;
+    if (!sizeOrName && !mirrorChange) {
+        err = "No change specified for the LUN.  Use -size=... or -name=... if you want to modify the specified LUN.";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    // The adapter applies the two kinds of change by different operations.
+    if (sizeOrName && mirrorChange) {
+        err = "Not allow changing LUN (size, name) and mirror at the same time.";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    return 0;
 }

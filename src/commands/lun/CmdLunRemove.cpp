@@ -1,8 +1,13 @@
 #include "commands/lun/CmdLunRemove.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/lun/LunCommandSupport.h"
+#include "core/ZekcliReturn.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -27,5 +32,28 @@ CmdLunRemove::CmdLunRemove()
 
 int CmdLunRemove::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    err.clear();
+    std::vector<PLunID> ids;
+    if (!getLunIdFromCommandLine(addressed.adapter, false, true, ids, err))
+        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = checkLunTargetKeywords(*this, err))
+        return rc;
+    PLunID const lun = ids.front();
+
+    std::string text;
+    int const rc = addressed.adapter->removeLun(lun, text);
+    if (g_pHbaMgmtApi->isFailure(rc)) {
+        // Whatever the adapter said about the refusal explains the code.
+        err = text;
+        return rc;
+    }
+    text += "Successfully removed LUN  " + lun.targetID().displayText() + " -lun_number=" +
+            PBase::numberToText(lun.lunNumber()) + "\n";
+    CommandReport report;
+    report.text = text;
+    report.resultCode = static_cast<e_MHBA_RETURN>(rc);
+    return finishCommand(*this, addressed.adapter, report, err);
 }

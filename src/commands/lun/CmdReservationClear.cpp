@@ -1,8 +1,13 @@
 #include "commands/lun/CmdReservationClear.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/lun/LunCommandSupport.h"
+#include "core/ZekcliReturn.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -27,5 +32,18 @@ CmdReservationClear::CmdReservationClear()
 
 int CmdReservationClear::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    std::vector<PLunID> ids;
+    if (!getLunIdFromCommandLine(addressed.adapter, false, true, ids, err))
+        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = addressed.adapter->clearReservation(ids.front())) {
+        err.clear();
+        return rc;
+    }
+    CommandReport report;
+    report.text = "Reservation has been cleared successfully.";
+    report.writeResult = false;
+    return finishCommand(*this, addressed.adapter, report, err);
 }

@@ -1,8 +1,14 @@
 #include "commands/lun/CmdReservationShow.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/lun/LunCommandSupport.h"
+#include "core/ZekcliReturn.h"
+#include "records/KLunReservationInfo.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -28,5 +34,34 @@ CmdReservationShow::CmdReservationShow()
 
 int CmdReservationShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    std::vector<PLunID> ids;
+    if (!getLunIdFromCommandLine(addressed.adapter, false, false, ids, err))
+        return ZEKCLI_PARSE_FAIL;
+    std::string const resolution = err;
+    if (!displayIpAddress(addressed.adapter, err))
+        return ZEKCLI_OUTPUT_FAIL;
+    if (ids.empty() && !outDisplay(resolution, err))
+        return ZEKCLI_OUTPUT_FAIL;
+
+    LunOutcomeTally tally;
+    for (PLunID const& id : ids) {
+        KLunReservationInfo reservation;
+        reservation.init();
+        int const rc = addressed.adapter->getReservations(id, reservation);
+        if (rc == MHBA_E_ADAPTER_NOT_IN_COLLECTION)
+            return rc;
+        tally.record(rc);
+        // A LUN whose reservation cannot be read is left out; the result code tells.
+        if (rc != 0)
+            continue;
+        std::string const text = "-lun_number=" + PBase::numberToText(id.lunNumber()) + " -fc_target=" +
+                                 id.targetID().displayText() + "\n" + reservation.displayText();
+        if (!outDisplay(text, err))
+            return ZEKCLI_OUTPUT_FAIL;
+    }
+    // The result lists no reservation records: readers get the count alone.
+    return writeCountedResult(*this, tally.resultCode(), std::vector<KLunReservationInfo>(), err);
 }
