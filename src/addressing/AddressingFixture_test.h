@@ -7,8 +7,10 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -116,8 +118,8 @@ public:
         statePath = std::filesystem::temp_directory_path() /
                     ("zek-addressing-" + std::to_string(getpid()) + "-" + std::to_string(++counter) + ".json");
         std::ofstream(statePath) << text;
-        setenv("HBASIM_STATE", statePath.c_str(), 1);
-        setenv("HBASIM_TIME", "1700000000", 1);
+        setEnvironment("HBASIM_STATE", statePath.string(), previousState);
+        setEnvironment("HBASIM_TIME", "1700000000", previousTime);
 
         std::string const library = std::string(ZEK_TEST_BIN_DIR) + "/libhbaclient.so";
         loaded = !text.empty() && std::filesystem::exists(library);
@@ -138,6 +140,8 @@ public:
         }
         std::error_code ignored;
         std::filesystem::remove(statePath, ignored);
+        restoreEnvironment("HBASIM_STATE", previousState);
+        restoreEnvironment("HBASIM_TIME", previousTime);
     }
     SimulatedSan(SimulatedSan const&) = delete;
     SimulatedSan& operator=(SimulatedSan const&) = delete;
@@ -153,6 +157,25 @@ public:
 
     bool loaded = false;
     std::filesystem::path statePath;
+
+private:
+    // Other tests of the same program may rely on the variables as they were.
+    static void setEnvironment(char const* name, std::string const& value, std::optional<std::string>& previous)
+    {
+        if (char const* old = std::getenv(name))
+            previous = old;
+        setenv(name, value.c_str(), 1);
+    }
+    static void restoreEnvironment(char const* name, std::optional<std::string> const& previous)
+    {
+        if (previous)
+            setenv(name, previous->c_str(), 1);
+        else
+            unsetenv(name);
+    }
+
+    std::optional<std::string> previousState;
+    std::optional<std::string> previousTime;
 };
 
 // Passes every call on to the loaded library and counts the ones whose
