@@ -4,6 +4,7 @@
 
 #include "addressing/AddressingFixture_test.h"
 #include "records/KIsaAdapterPath.h"
+#include "records/PIpAddress.h"
 
 using addressing_test::CountingApi;
 using addressing_test::Row;
@@ -217,4 +218,48 @@ TEST(AdapterSelection, AnotherKeywordCanNameTheAdapter)
     std::string err;
     EXPECT_EQ(MHBA_S_OK, command.selectAdapterFromKeyword(ModifierId::MODIFIER_SECONDARY, path, err));
     EXPECT_EQ(0x10B1ULL, path.isaHbaId());
+}
+
+TEST(AdapterSelection, TheDeviceOfARemoteHost)
+{
+    SimulatedSan san("two-devices");
+    ADDRESSING_REQUIRE_SIMULATOR(san);
+    TestCommand command;
+    command.give(ModifierId::MODIFIER_AGENT, "127.0.10.1");
+    command.give(ModifierId::MODIFIER_ZEK, "0");
+    Selection const chosen = select(command);
+    EXPECT_EQ(MHBA_S_OK, chosen.code) << chosen.err;
+    EXPECT_EQ(0x7E1ULL, chosen.path.isaHbaId());
+}
+
+namespace {
+
+struct AgentTest {
+    e_MHBA_RETURN code;
+    std::string err;
+};
+
+AgentTest testAgent(char const* agent)
+{
+    TestCommand command;
+    if (agent)
+        command.give(ModifierId::MODIFIER_AGENT, agent);
+    PIpAddress address;
+    AgentTest result{MHBA_S_OK, ""};
+    result.code = command.testAgentConnectionIfAny(address, result.err);
+    return result;
+}
+
+} // namespace
+
+TEST(AgentConnection, OnlyANamedAgentIsAsked)
+{
+    SimulatedSan san("two-devices");
+    ADDRESSING_REQUIRE_SIMULATOR(san);
+    EXPECT_EQ(MHBA_S_OK, testAgent(nullptr).code);
+    EXPECT_EQ(MHBA_S_OK, testAgent("127.0.10.1").code);
+    AgentTest const silent = testAgent("127.0.10.9");
+    EXPECT_EQ(MHBA_E_AGENT_NOT_RESPONDING, silent.code);
+    EXPECT_NE("", silent.err);
+    EXPECT_EQ(MHBA_E_BAD_AGENT_ADDRESS, testAgent("not an address").code);
 }
