@@ -46,10 +46,12 @@ void copyWwn(unsigned char* out, const std::string& hex)
     std::memcpy(out, bytes.data(), 8);
 }
 
+// A port identifier is three bytes, domain first; a wider field keeps them
+// at its start.
 void copyPortId(unsigned char* out, u32 id, int length)
 {
     for (int i = 0; i < length; ++i)
-        out[i] = static_cast<unsigned char>(id >> (8 * (length - 1 - i)));
+        out[i] = i < 3 ? static_cast<unsigned char>(id >> (8 * (2 - i))) : 0;
 }
 
 int capabilityIndex(const std::string& name)
@@ -92,11 +94,15 @@ void putFigure(unsigned char* data, int index, double value, double scale)
     data[index + 1] = static_cast<unsigned char>(raw & 0xFF);
 }
 
+// The display reads both bytes as signed: the high byte plus the low byte in
+// 256ths, and for a negative high byte the complement of the low byte.
 void putTemperature(unsigned char* data, int index, double celsius)
 {
-    int whole = static_cast<int>(std::floor(celsius));
+    int whole = static_cast<int>(celsius >= 0 ? std::lround(celsius) : std::ceil(celsius));
+    long fraction = std::clamp(std::lround((celsius - whole) * 256), -128L, 127L);
     data[index] = static_cast<unsigned char>(static_cast<signed char>(whole));
-    data[index + 1] = static_cast<unsigned char>(std::lround((celsius - whole) * 256) & 0xFF);
+    signed char low = static_cast<signed char>(fraction);
+    data[index + 1] = static_cast<unsigned char>(whole >= 0 ? low : static_cast<signed char>(~low));
 }
 
 } // namespace
@@ -273,12 +279,12 @@ void fillSfpInfo(const Port& p, unsigned index, KSfpInfo& out)
     const double scale = 100.0 * 0.000001;  // the display's one scale for all four figures
     struct Figure { int value, highAlarm; double v, hi, lo; } figures[] = {
         {354, 264, s.voltage, 3.6, 3.0},
-        {356, 272, s.txBiasMa, 12.0, 2.0},
+        {356, 272, s.txBiasMa, 6.0, 2.0},
         {358, 280, s.txPowerMw, 1.0, 0.2},
         {360, 288, s.rxPowerMw, 1.0, 0.05},
     };
     for (const Figure& f : figures) {
-        putFigure(d, f.highAlarm, f.hi * 1.1, scale);
+        putFigure(d, f.highAlarm, f.hi * 1.05, scale);
         putFigure(d, f.highAlarm + 2, f.lo * 0.9, scale);
         putFigure(d, f.highAlarm + 4, f.hi, scale);
         putFigure(d, f.highAlarm + 6, f.lo, scale);

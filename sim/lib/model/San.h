@@ -41,7 +41,7 @@ struct Sfp {
     int driverStatus = 0;
     double temperatureC = 38.5;
     double voltage = 3.3;
-    double txBiasMa = 7.2;
+    double txBiasMa = 4.8;
     double txPowerMw = 0.55;
     double rxPowerMw = 0.48;
 };

@@ -63,7 +63,8 @@ LunLoad lunLoad(const San& san, const Lun& lun, const Adapter& viewer, long long
     if (lun.cached && lun.cache.adapter == viewer.id) {
         u64 readBytes = load.readBlocks * 512;
         u64 s = seedOf(lun.wwuln);
-        load.readHitBytes = readBytes * (55 + s % 35) / 100;
+        // Hits on data loaded by reads and by writes share the data read.
+        load.readHitBytes = readBytes * (45 + s % 35) / 100;
         load.writeHitBytes = lun.cache.mode == 2 || lun.cache.mode == 5 ? readBytes * (5 + s % 10) / 100 : 0;
         load.readHitPercent = percentOf(load.readHitBytes, readBytes);
         load.writeHitPercent = percentOf(load.writeHitBytes, readBytes);
