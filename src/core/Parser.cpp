@@ -213,7 +213,8 @@ bool Parser::specialHandlingForAppendModifier(bool isSetAppend, ModifierId::MODI
     if (!err.empty())
         return false;
     line = text + line;
-    if (line.size() > MAX_EXPANDED_LINE) {
+    appendExpansionLength += text.size();
+    if (line.size() > MAX_EXPANDED_LINE || appendExpansionLength > MAX_EXPANDED_LINE) {
         err += kAppendRecursionText;
         return false;
     }
@@ -235,6 +236,7 @@ constexpr char const* kArrowSyntaxLead = "\n-->Syntax: ";
 int Parser::parseCommandLine(std::string& err)
 {
     std::string line = commandLine;
+    appendExpansionLength = 0;
     root.initDefaultFlag();
     root.commonCommand.initDefaultFlag();
     root.resetModifierRequiredParamValues();

@@ -60,4 +60,9 @@ public:
     TokenCmd* currentCmd = nullptr;
     TokenRoot root;
     std::string historyPath;
+
+private:
+    // Characters that append sets have added to the line being parsed; a set
+    // that names itself last never makes the line longer, only this grows.
+    size_t appendExpansionLength = 0;
 };

@@ -490,3 +490,163 @@ TEST(ParserReady, CommandWithItsRequiredKeywordsIsReady)
     ASSERT_EQ(tree.parse("version adapter -compare=1"), ZEKCLI_OK) << tree.err;
     EXPECT_TRUE(tree.parser.isReadyToExec());
 }
+
+TEST(ParserToken, ColonEndsAKeywordName)
+{
+    TokenResult r = takeToken("/lun_number:1");
+    EXPECT_TRUE(r.ok);
+    EXPECT_EQ(r.token, "lun_number");
+    EXPECT_EQ(r.prefix, '/');
+    EXPECT_EQ(r.rest, ":1");
+}
+
+// ---- append sets -------------------------------------------------------------------
+
+namespace {
+
+std::string const kAppendTooLong =
+    "Command line got too long, most likely because -append=<name> expanded to a command line that included "
+    "\"-append=<same set name>\", causing an infinite recursion";
+
+std::string savedSet(Tree& tree, std::string const& name)
+{
+    std::string err;
+    std::string const text = tree.parser.root.getAppendSet(name, err);
+    return err.empty() ? text : "<" + err + ">";
+}
+
+} // namespace
+
+TEST(ParserAppend, SetAppendStoresTheRestOfTheLine)
+{
+    Tree tree;
+    ASSERT_EQ(tree.parseArgs({"host", "set", "append", "-append=x", "-quiet", "-zek=1"}), ZEKCLI_OK) << tree.err;
+    EXPECT_EQ(tree.parser.currentCmd, tree.setAppend);
+    TokenModifierString* own = tree.keyword(tree.setAppend, ModifierId::MODIFIER_APPEND);
+    EXPECT_EQ(own->value, "x");
+    EXPECT_FALSE(own->isDefault);
+    EXPECT_TRUE(tree.common(ModifierId::MODIFIER_QUIET)->isDefault);
+    EXPECT_EQ(savedSet(tree, "x"), "-quiet -zek=1 ");
+}
+
+TEST(ParserAppend, SetIsExpandedInPlaceOfTheKeyword)
+{
+    Tree tree;
+    tree.parser.root.updateAppendSet("x", "-quiet -zek=1 ");
+    ASSERT_EQ(tree.parse("show lun -append=x -lun_number=4"), ZEKCLI_OK) << tree.err;
+    EXPECT_FALSE(tree.common(ModifierId::MODIFIER_QUIET)->isDefault);
+    EXPECT_EQ(tree.keyword(tree.showLun, ModifierId::MODIFIER_ZEK)->value, "1");
+    EXPECT_EQ(tree.keyword(tree.showLun, ModifierId::MODIFIER_LUN_NUMBER)->value, "4");
+    EXPECT_EQ(tree.common(ModifierId::MODIFIER_APPEND)->value, "x");
+}
+
+TEST(ParserAppend, LaterAppendAlsoExpands)
+{
+    Tree tree;
+    tree.parser.root.updateAppendSet("q", "-quiet ");
+    ASSERT_EQ(tree.parse("show lun -lun_number=4 -append=q"), ZEKCLI_OK) << tree.err;
+    EXPECT_FALSE(tree.common(ModifierId::MODIFIER_QUIET)->isDefault);
+}
+
+TEST(ParserAppend, UnknownSetIsNotRecognized)
+{
+    Tree tree;
+    EXPECT_EQ(tree.parse("show lun -append=nosuch"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, "nosuch is not recognized" + kShowLunArrow);
+}
+
+TEST(ParserAppend, SetIncludingItselfInSecondPlaceStops)
+{
+    Tree tree;
+    tree.parser.root.updateAppendSet("y", "-quiet -append=y ");
+    EXPECT_EQ(tree.parse("show lun -append=y -lun_number=1"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, kAppendTooLong + kShowLunArrow);
+}
+
+TEST(ParserAppend, SetEndingInItselfStopsToo)
+{
+    // Such a set replaces itself without the line ever growing.
+    Tree tree;
+    tree.parser.root.updateAppendSet("w", "-quiet -append=w ");
+    EXPECT_EQ(tree.parse("show lun -append=w"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, kAppendTooLong + kShowLunArrow);
+    tree.parser.root.updateAppendSet("u", "-echo -append=v ");
+    tree.parser.root.updateAppendSet("v", "-quiet -append=u ");
+    EXPECT_EQ(tree.parse("show lun -append=u"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, kAppendTooLong + kShowLunArrow);
+}
+
+TEST(ParserAppend, SetIncludingItselfInFirstPlaceDoesNotRecur)
+{
+    Tree tree;
+    tree.parser.root.updateAppendSet("z", "-append=z -quiet ");
+    ASSERT_EQ(tree.parse("show lun -append=z"), ZEKCLI_OK) << tree.err;
+    EXPECT_FALSE(tree.common(ModifierId::MODIFIER_QUIET)->isDefault);
+    EXPECT_EQ(tree.common(ModifierId::MODIFIER_APPEND)->value, "-append=z -quiet ");
+}
+
+// ---- a further line in the same tree ----------------------------------------------------
+
+TEST(ParserScriptLine, RunsTheCommandOfTheLine)
+{
+    Tree tree;
+    tree.helpCli->answer = ZEKCLI_CMD_FAIL;
+    tree.helpCli->answerText = "why";
+    std::string err;
+    testing::internal::CaptureStdout();
+    int const rc = tree.parser.root.execOneCommandLine("help -quiet", err, 3);
+    testing::internal::GetCapturedStdout();
+    EXPECT_EQ(rc, ZEKCLI_CMD_FAIL);
+    EXPECT_EQ(err, "why");
+    EXPECT_EQ(tree.helpCli->runs, 1);
+    EXPECT_EQ(tree.parser.commandLine, "help -quiet");
+}
+
+TEST(ParserScriptLine, BlankLineDoesNotRunThePreviousCommandAgain)
+{
+    Tree tree;
+    std::string err;
+    testing::internal::CaptureStdout();
+    tree.parser.root.execOneCommandLine("help -quiet", err, 1);
+    int const blank = tree.parser.root.execOneCommandLine("   ", err, 2);
+    int const dash = tree.parser.root.execOneCommandLine("-", err, 3);
+    testing::internal::GetCapturedStdout();
+    EXPECT_EQ(blank, ZEKCLI_OK);
+    EXPECT_EQ(dash, ZEKCLI_OK);
+    EXPECT_EQ(tree.helpCli->runs, 1);
+}
+
+TEST(ParserScriptLine, ParsingFailureIsReturnedNotPrinted)
+{
+    Tree tree;
+    std::string err;
+    testing::internal::CaptureStdout();
+    int const rc = tree.parser.root.execOneCommandLine("show lun -frob", err, 1);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(rc, ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(err, "Could not parse modifier near " + kShowLunArrow);
+}
+
+TEST(ParserScriptLine, MissingRequiredKeywordRunsNothingAndAnswersZero)
+{
+    Tree tree;
+    std::string err;
+    testing::internal::CaptureStdout();
+    int const rc = tree.parser.root.execOneCommandLine("version adapter", err, 1);
+    std::string const shown = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(rc, ZEKCLI_OK);
+    EXPECT_EQ(tree.versionAdapter->runs, 0);
+    EXPECT_EQ(shown.rfind("Error:  -compare modifier must be specified\n", 0), 0u) << shown;
+}
+
+TEST(ParserScriptLine, HelpKeywordShowsHelpInsteadOfRunning)
+{
+    Tree tree;
+    std::string err;
+    testing::internal::CaptureStdout();
+    int const rc = tree.parser.root.execOneCommandLine("show lun -?", err, 1);
+    std::string const shown = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(rc, ZEKCLI_OK);
+    EXPECT_EQ(tree.showLun->runs, 0);
+    EXPECT_NE(shown.find("Syntax: show lun\n"), std::string::npos) << shown;
+}
