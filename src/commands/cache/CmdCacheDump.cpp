@@ -1,8 +1,18 @@
 #include "commands/cache/CmdCacheDump.h"
 
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <unistd.h>
+
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "core/Token.h"
+#include "core/ZekcliReturn.h"
+#include "records/KIsaAdapterPath.h"
 
 namespace {
 
@@ -12,6 +22,22 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_INTERVAL, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+// What the library is asked to write: the cache summary of the adapter.
+constexpr int kCacheSummaryDump = 2;
+constexpr int kLongestInterval = 100000;
+
+// The lines of an open file, each ended by a new line, a last line without
+// its end included so that nothing the adapter wrote is lost.
+std::string readAllLines(FILE* file)
+{
+    std::string text;
+    for (int byte = std::fgetc(file); byte != EOF; byte = std::fgetc(file))
+        text.push_back(static_cast<char>(byte));
+    if (!text.empty() && text.back() != '\n')
+        text.push_back('\n');
+    return text;
+}
 
 } // namespace
 
@@ -35,5 +61,75 @@ CmdCacheDump::CmdCacheDump()
 
 int CmdCacheDump::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    err.clear();
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    int interval = 0;
+    bool intervalGiven = false;
+    if (!getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_INTERVAL, 0, kLongestInterval, interval,
+                                                 intervalGiven, err))
+        return ZEKCLI_PARSE_FAIL;
+    TokenModifierString const* const folderKeyword = findModifier(ModifierId::MODIFIER_FOLDER, err);
+    if (!folderKeyword)
+        return ZEKCLI_PARSE_FAIL;
+    // The keyword's initial value is no folder; an empty one means home.
+    std::string folder = keywordGiven(folderKeyword) ? folderKeyword->value : std::string();
+    if (!createDirectoryIfItDoesNotExist(folder, err))
+        return ZEKCLI_PARSE_FAIL;
+    if (interval > 0)
+        return dumpRepeatedly(*addressed.adapter, folder, static_cast<unsigned int>(interval), err);
+
+    std::string const path = folder + "/" + getCacheInfoFileName(addressed.adapter->getAdapterPath()->hbaIDText());
+    e_MHBA_RETURN const rc = addressed.adapter->saveCacheDump(kCacheSummaryDump, path);
+    if (g_pHbaMgmtApi->isFailure(rc))
+        return rc;
+    CommandReport report;
+    report.banner = false;
+    report.text = displayCacheInfoFile(path) + "\n";
+    report.resultCode = rc;
+    return finishCommand(*this, addressed.adapter, report, err);
+}
+
+int CmdCacheDump::dumpRepeatedly(HIsaAdapter& adapter, std::string const& folder, unsigned int seconds,
+                                 std::string& err)
+{
+    // Runs until the process is interrupted; each round on a clean screen.
+    for (;;) {
+        // Without a clear screen the rounds simply follow one another.
+        (void)std::system("clear");
+        if (!displayIpAddress(&adapter, err))
+            return ZEKCLI_OUTPUT_FAIL;
+        std::string const path = folder + "/" + getCacheInfoFileName(adapter.getAdapterPath()->hbaIDText());
+        e_MHBA_RETURN const rc = adapter.saveCacheDump(kCacheSummaryDump, path);
+        if (g_pHbaMgmtApi->isFailure(rc))
+            return rc;
+        std::string const text = displayCacheInfoFile(path) + "\n";
+        if (!outDisplay(text, err) || !outDisplay(text, err))
+            return ZEKCLI_OUTPUT_FAIL;
+        sleep(seconds);
+    }
+}
+
+std::string CmdCacheDump::getCacheInfoFileName(std::string const& adapterText) const
+{
+    time_t const now = time(nullptr);
+    tm local{};
+    if (!localtime_r(&now, &local))
+        return std::string();
+    char stamp[32];
+    if (strftime(stamp, sizeof stamp, "%Y-%m-%d_%H-%M-%S", &local) == 0)
+        return std::string();
+    return "CacheInfo-" + adapterText + stamp + ".txt";
+}
+
+std::string CmdCacheDump::displayCacheInfoFile(std::string const& path) const
+{
+    FILE* file = nullptr;
+    std::string openError;
+    if (!Token::safe_fopen(&file, path, "r", openError))
+        return openError;
+    std::string const text = readAllLines(file);
+    fclose(file);
+    return text;
 }

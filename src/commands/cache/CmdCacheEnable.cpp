@@ -2,7 +2,6 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
 
 namespace {
 
@@ -38,5 +37,5 @@ CmdCacheEnable::CmdCacheEnable()
 
 int CmdCacheEnable::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return runCacheCommand(false, err);
 }

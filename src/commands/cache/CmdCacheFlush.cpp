@@ -1,8 +1,18 @@
 #include "commands/cache/CmdCacheFlush.h"
 
+#include <cstdio>
+#include <unistd.h>
+#include <vector>
+
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/cache/CacheCommandSupport.h"
+#include "core/ZekcliReturn.h"
+#include "records/KLunInfo.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -12,6 +22,9 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_SYNC, TokenModifier::OPTIONAL, TokenModifier::VALUE_NONE),
     endRow(),
 };
+
+// The device is asked about a running flush this often, in seconds.
+constexpr unsigned int kFlushPollSeconds = 3;
 
 } // namespace
 
@@ -32,5 +45,89 @@ CmdCacheFlush::CmdCacheFlush()
 
 int CmdCacheFlush::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    std::vector<PLunID> ids;
+    if (!getLunIdFromCommandLine(addressed.adapter, false, false, ids, err))
+        return ZEKCLI_PARSE_FAIL;
+    // "No LUNs found ..." is an answer here, not a failure.
+    std::string const noLuns = err;
+    TokenModifierString const* const sync = findModifier(ModifierId::MODIFIER_SYNC, err);
+    if (!sync)
+        return ZEKCLI_PARSE_FAIL;
+    if (!displayIpAddress(addressed.adapter, err))
+        return ZEKCLI_OUTPUT_FAIL;
+
+    int code = 0;
+    if (ids.empty()) {
+        if (!outDisplay(noLuns, err))
+            return ZEKCLI_OUTPUT_FAIL;
+    } else {
+        for (PLunID const& lun : ids) {
+            bool shown = true;
+            if (int const rc = flushOneLun(*addressed.adapter, lun, keywordGiven(sync), shown, code, err))
+                return rc;
+            // Output that cannot be written ends the walk; the result record still tells.
+            if (!shown)
+                break;
+        }
+    }
+    if (!outResult(static_cast<e_MHBA_RETURN>(code), nullptr, 0, err))
+        return ZEKCLI_OUTPUT_FAIL;
+    return 0;
+}
+
+int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, bool& shown, int& code,
+                               std::string& err)
+{
+    HLun* const held = findLunObject(adapter, lun);
+    if (!held)
+        return 0;
+    if (int const rc = readLunRecord(*held))
+        return rc;
+    KLunInfo const& info = *held->getLunInfo();
+    if (info.eLunType() != KLunInfo::LUN_TYPE_DIRECT_ACCESS) {
+        shown = outDisplay(lun.displayTextWithoutVpGroup() + " NOT flushed, (" + KLunInfo::lunTypeToText(info.eLunType()) +
+                               ")\n",
+                           err);
+        return 0;
+    }
+    if (!info.isLunCached()) {
+        shown = outDisplay(lun.displayText() + " NOT flushed, (SAN Data LUN is not cached)\n", err);
+        return 0;
+    }
+    code = adapter.startCacheFlush(lun);
+    if (code != 0) {
+        shown = outDisplay(lun.displayText() + " NOT flushed, (" + g_pHbaMgmtApi->returnCodeToText(code) + ")\n",
+                           err);
+        // Already told in its line; the other LUNs are flushed all the same.
+        code = 0;
+        return 0;
+    }
+    if (!waitForEnd) {
+        shown = outDisplay(lun.displayText() + " started flushing\n", err);
+        return 0;
+    }
+    return waitForFlushEnd(adapter, lun, shown, code, err);
+}
+
+int CmdCacheFlush::waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool& shown, int& code,
+                                   std::string& err)
+{
+    shown = outDisplay(lun.displayText(), err);
+    if (!shown)
+        return 0;
+    // The device alone says when the flush is over: a flush of much dirty
+    // data may take long, and cutting the wait short would report it done.
+    uint32_t inProgress = 0;
+    do {
+        code = adapter.getCacheFlushProgress(lun, &inProgress);
+        if (code != 0)
+            return code;
+        putchar('.');
+        sleep(kFlushPollSeconds);
+    } while (inProgress != 0);
+    shown = outDisplay(" flushing completed\n", err);
+    return 0;
 }

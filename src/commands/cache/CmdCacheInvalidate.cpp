@@ -1,8 +1,13 @@
 #include "commands/cache/CmdCacheInvalidate.h"
 
+#include <cstdint>
+#include <string>
+
+#include "api/HbaMgmtInterfaces.h"
+
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/cache/CacheCommandSupport.h"
 
 namespace {
 
@@ -31,5 +36,17 @@ CmdCacheInvalidate::CmdCacheInvalidate()
 
 int CmdCacheInvalidate::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    LbaRangeRequest request;
+    if (int const rc = readLbaRangeRequest(*this, request, err))
+        return rc;
+    // The adapter takes an end block here, not a count; the sum of two values
+    // of at most 2^63-1 still fits in 64 bits unsigned.
+    uint64_t const end = static_cast<uint64_t>(request.start) + static_cast<uint64_t>(request.size);
+    e_MHBA_RETURN const rc =
+        request.addressed.adapter->invalidateCache(request.lun, static_cast<uint64_t>(request.start), end);
+    bool const wholeLun = request.start == 0 && request.size == 0;
+    std::string const message = wholeLun ? "Successfully invalidated cache for entire range"
+                                         : "Successfully invalidated cache for LBA range " +
+                                               std::to_string(request.start) + " to " + std::to_string(end);
+    return finishLbaRangeCommand(*this, request, rc, message, err);
 }

@@ -1,8 +1,13 @@
 #include "commands/cache/CmdCacheLock.h"
 
+#include <cstdint>
+#include <string>
+
+#include "api/HbaMgmtInterfaces.h"
+
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/cache/CacheCommandSupport.h"
 
 namespace {
 
@@ -29,5 +34,13 @@ CmdCacheLock::CmdCacheLock()
 
 int CmdCacheLock::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    LbaRangeRequest request;
+    if (int const rc = readLbaRangeRequest(*this, request, err))
+        return rc;
+    e_MHBA_RETURN const rc = request.addressed.adapter->lockCache(request.lun, static_cast<uint64_t>(request.start),
+                                                                  static_cast<uint64_t>(request.size));
+    return finishLbaRangeCommand(*this, request, rc,
+                                 "Successfully locked cache for LBA range " + std::to_string(request.start) + " to " +
+                                     std::to_string(request.size),
+                                 err);
 }

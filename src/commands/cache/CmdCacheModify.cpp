@@ -2,7 +2,6 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
 
 namespace {
 
@@ -42,5 +41,5 @@ CmdCacheModify::CmdCacheModify()
 
 int CmdCacheModify::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return runCacheCommand(true, err);
 }
