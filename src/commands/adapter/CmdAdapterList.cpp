@@ -1,7 +1,15 @@
 #include "commands/adapter/CmdAdapterList.h"
 
+#include <cstdint>
+#include <vector>
+
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
-#include "commands/NotAvailable.h"
+#include "commands/CommandPattern.h"
+#include "core/ZekcliReturn.h"
+#include "records/PIpAddress.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -10,6 +18,14 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+void addUnlessListed(std::vector<KClusterID>& ids, KClusterID const& id)
+{
+    for (KClusterID const& listed : ids)
+        if (listed == id)
+            return;
+    ids.push_back(id);
+}
 
 } // namespace
 
@@ -29,5 +45,41 @@ CmdAdapterList::CmdAdapterList()
 
 int CmdAdapterList::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    PIpAddress agent;
+    if (!readAgentAddress(*this, agent, err))
+        return ZEKCLI_PARSE_FAIL;
+    TokenModifierString const* const zek = findModifier(ModifierId::MODIFIER_ZEK, err);
+    if (!zek)
+        return ZEKCLI_PARSE_FAIL;
+
+    g_pHbaMgmtApi->clearAdapters();
+    g_pHbaMgmtApi->clearClusters();
+    uint32_t count = 0;
+    if (int const rc = g_pHbaMgmtApi->scanAdapters(agent, &count))
+        return rc;
+    std::vector<KClusterID> ids;
+    for (HCluster* cluster : g_pHbaMgmtApi->getClusters()->items)
+        ids.push_back(*cluster->getClusterId());
+
+    // The named adapter adds the clusters it sees in the SAN, its own first.
+    if (keywordGiven(zek)) {
+        AddressedAdapter named;
+        if (int const rc = selectAdapter(named.path, err))
+            return rc;
+        if (int const rc = rescanFromAdapter(*this, named, err))
+            return rc;
+        KClusterID const* const own = named.adapter->getClusterId();
+        if (!own || own->isEmpty()) {
+            err = "-zek=" + zek->value + " is not a member of a cluster";
+            return ZEKCLI_PARSE_FAIL;
+        }
+        addUnlessListed(ids, *own);
+    }
+
+    std::string text;
+    for (KClusterID const& id : ids)
+        text += getSummaryText_Cluster(id);
+    if (ids.empty())
+        text = "\nNo Clusters found";
+    return finishCommand(*this, nullptr, CommandReport::withoutBanner(text), err);
 }

@@ -1,8 +1,11 @@
 #include "commands/adapter/CmdAdapterSet.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "core/ZekcliReturn.h"
+#include "records/KIsaAdapterInfo.h"
 
 namespace {
 
@@ -28,5 +31,25 @@ CmdAdapterSet::CmdAdapterSet()
 
 int CmdAdapterSet::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    KIsaAdapterInfo info;
+    if (int const rc = findAdapterAndInfo(*this, target, info, err))
+        return rc;
+    TokenModifierString const* const name = findModifier(ModifierId::MODIFIER_NAME, err);
+    if (!name)
+        return ZEKCLI_PARSE_FAIL;
+
+    CommandReport report;
+    report.banner = false;
+    if (keywordGiven(name)) {
+        // The library knows the limits of a name; the length is its to check.
+        e_MHBA_RETURN const rc = target.adapter->setSymbolicName(name->value.c_str(), name->value.size());
+        if (rc > MHBA_S_OK_REBOOT_REQUIRED)
+            return rc;
+        report.resultCode = rc;
+        report.text = "Adapter symbolic name set successfully";
+        if (rc == MHBA_S_OK_REBOOT_REQUIRED)
+            report.text += ", but 'restart adapter' is required for changes to take effect";
+    }
+    return finishCommand(*this, target.adapter, report, err);
 }

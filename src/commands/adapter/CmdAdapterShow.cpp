@@ -1,7 +1,17 @@
 #include "commands/adapter/CmdAdapterShow.h"
 
+#include <cstdint>
+#include <vector>
+
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
-#include "commands/NotAvailable.h"
+#include "commands/CommandPattern.h"
+#include "core/ZekcliReturn.h"
+#include "records/KIsaAdapterInfo.h"
+#include "records/KIsaAdapterPath.h"
+#include "records/PIpAddress.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -10,6 +20,72 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+std::string agentSuffix(KIsaAdapterPath const& path, std::string const& words)
+{
+    if (!reachedThroughAgent(path))
+        return std::string();
+    return words + path.ipAddrRemoteAgentHost().displayText();
+}
+
+// A local adapter answers to its instance number as well as to its
+// identifier, so both names are shown.
+std::string adapterNames(KIsaAdapterPath const& path)
+{
+    std::string text = "\n    -zek=";
+    if (path.isLocalDevice())
+        text += std::to_string(path.deviceInstanceForAccess()) + agentSuffix(path, " -agent=") + "\n    -zek=";
+    return text + path.hbaIDText() + agentSuffix(path, " -agent=");
+}
+
+std::string unreachableText(KIsaAdapterPath const& path)
+{
+    if (path.isLocalDevice())
+        return "    *** Error communicating with local ZEK device " + std::to_string(path.deviceInstanceForAccess()) +
+               "\n\n";
+    return "    *** Error communicating with ZEK device " + path.hbaIDText() +
+           agentSuffix(path, " on remote host ") + "\n\n";
+}
+
+// The local adapters, scanning first when the library holds none yet.
+int collectLocalAdapters(PIpAddress& agent, std::vector<KIsaAdapterPath>& paths, bool& noneFound)
+{
+    noneFound = false;
+    if (g_pHbaMgmtApi->getAdapters()->items.empty()) {
+        g_pHbaMgmtApi->clearAdapters();
+        g_pHbaMgmtApi->clearClusters();
+        uint32_t count = 0;
+        int const rc = g_pHbaMgmtApi->scanAdapters(agent, &count);
+        if (rc == MHBA_E_NO_ADAPTER_FOUND)
+            noneFound = true;
+        else if (rc != 0)
+            return rc;
+    }
+    for (HIsaAdapter* adapter : g_pHbaMgmtApi->getAdapters()->items)
+        if (adapter->getAdapterPath()->isLocalDevice())
+            paths.push_back(*adapter->getAdapterPath());
+    return 0;
+}
+
+// Appends the block of one adapter. A failure to describe an adapter that
+// was found ends the whole listing.
+int appendAdapterBlock(KIsaAdapterPath const& path, std::string& text)
+{
+    HIsaAdapterCollection* const adapters = g_pHbaMgmtApi->getAdapters();
+    HIsaAdapter* const adapter = adapters->contains(path) ? adapters->find(path) : nullptr;
+    if (!adapter) {
+        text += unreachableText(path);
+        return 0;
+    }
+    KClusterID const* const cluster = adapter->getClusterId();
+    text += adapterNames(path) + "\n        " + path.displayText() + "\n        Cluster Key         = " +
+            (cluster ? cluster->displayText() : KClusterID().displayText()) + "\n";
+    KIsaAdapterInfo info;
+    if (int const rc = adapter->getAdapterInfo(info))
+        return rc;
+    text += info.displayText() + "\n\n";
+    return 0;
+}
 
 } // namespace
 
@@ -27,5 +103,32 @@ CmdAdapterShow::CmdAdapterShow()
 
 int CmdAdapterShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    PIpAddress agent;
+    if (!readAgentAddress(*this, agent, err))
+        return ZEKCLI_PARSE_FAIL;
+    TokenModifierString const* const zek = findModifier(ModifierId::MODIFIER_ZEK, err);
+    if (!zek)
+        return ZEKCLI_PARSE_FAIL;
+
+    std::vector<KIsaAdapterPath> paths;
+    bool noneFound = false;
+    if (keywordGiven(zek)) {
+        AddressedAdapter named;
+        if (int const rc = findAddressedAdapter(*this, named, err))
+            return rc;
+        named.path = *named.adapter->getAdapterPath();
+        if (int const rc = rescanFromAdapter(*this, named, err))
+            return rc;
+        paths.push_back(named.path);
+    } else if (int const rc = collectLocalAdapters(agent, paths, noneFound)) {
+        return rc;
+    }
+
+    std::string text;
+    if (noneFound && paths.empty())
+        text = "\n    *** No ZEK found ***\n\n";
+    for (KIsaAdapterPath const& path : paths)
+        if (int const rc = appendAdapterBlock(path, text))
+            return rc;
+    return finishCommand(*this, nullptr, CommandReport::withoutBanner(text), err);
 }

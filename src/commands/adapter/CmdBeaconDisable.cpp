@@ -2,7 +2,7 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/BeaconSwitch.h"
 
 namespace {
 
@@ -26,5 +26,5 @@ CmdBeaconDisable::CmdBeaconDisable()
 
 int CmdBeaconDisable::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return switchBeacon(*this, false, err);
 }

@@ -1,8 +1,9 @@
 #include "commands/adapter/CmdCaptureFileSave.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
 
 namespace {
 
@@ -27,5 +28,5 @@ CmdCaptureFileSave::CmdCaptureFileSave()
 
 int CmdCaptureFileSave::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return saveAdapterArchive(*this, &HIsaAdapter::saveCaptureFile, "Capture file saved successfully\n", err);
 }

@@ -1,8 +1,11 @@
 #include "commands/adapter/CmdClusterCreate.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/ClusterScope.h"
+#include "core/EnumStrList.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -13,6 +16,24 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_HOST_CLUSTER_TYPE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+// The clustering software of the hosts, as the adapter numbers it.
+EnumStrList<int> const& hostClusterTypes()
+{
+    static EnumStrList<int> const types = [] {
+        EnumStrList<int> list;
+        list.add(0, "unknown");
+        list.add(1, "none");
+        list.add(2, "mscs");
+        list.add(3, "vmware");
+        list.add(4, "oracle_rac");
+        list.add(5, "linux");
+        return list;
+    }();
+    return types;
+}
+
+constexpr int kNoHostClustering = 1;
 
 } // namespace
 
@@ -41,5 +62,29 @@ CmdClusterCreate::CmdClusterCreate()
 
 int CmdClusterCreate::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter primary;
+    KClusterID id;
+    if (int const rc = findAdapterAndClusterId(*this, primary, id, err))
+        return rc;
+    if (!findModifier(ModifierId::MODIFIER_SECONDARY, err))
+        return ZEKCLI_PARSE_FAIL;
+    AddressedAdapter secondary;
+    if (int const rc = findAdapterFromKeyword(*this, ModifierId::MODIFIER_SECONDARY, secondary, err))
+        return rc;
+    TokenModifierString const* const type = findModifier(ModifierId::MODIFIER_HOST_CLUSTER_TYPE, err);
+    if (!type)
+        return ZEKCLI_PARSE_FAIL;
+    int hostClusterType = kNoHostClustering;
+    if (keywordGiven(type)) {
+        hostClusterType = hostClusterTypes().valFromPartialText(type->value, err);
+        if (!err.empty())
+            return ZEKCLI_PARSE_FAIL;
+    }
+
+    if (int const rc = primary.adapter->createCluster(primary.path, secondary.path, id, hostClusterType)) {
+        err.clear();
+        return rc;
+    }
+    return finishCommand(*this, primary.adapter, CommandReport::withoutBanner("Cluster successfully created.\n"),
+                         err);
 }

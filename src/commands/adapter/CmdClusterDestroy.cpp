@@ -1,8 +1,9 @@
 #include "commands/adapter/CmdClusterDestroy.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/ClusterScope.h"
 
 namespace {
 
@@ -28,5 +29,12 @@ CmdClusterDestroy::CmdClusterDestroy()
 
 int CmdClusterDestroy::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    KClusterID id;
+    if (int const rc = findAdapterAndClusterId(*this, target, id, err))
+        return rc;
+    if (int const rc = target.adapter->destroyCluster(id))
+        return rc;
+    std::string const text = "cluster " + id.displayText() + " successfully destroyed\n";
+    return finishCommand(*this, target.adapter, CommandReport::withoutBanner(text), err);
 }

@@ -1,8 +1,11 @@
 #include "commands/adapter/CmdClusterList.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/ClusterScope.h"
+#include "records/KClusterInfo.h"
 
 namespace {
 
@@ -35,5 +38,24 @@ CmdClusterList::CmdClusterList()
 
 int CmdClusterList::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    ClusterScope scope;
+    int const rc = gatherClusterScope(*this, scope, err);
+    if (rc != 0 || scope.finished)
+        return rc;
+    HClusterCollection* const clusters = g_pHbaMgmtApi->getClusters();
+    if (clusters->items.empty())
+        return finishCommand(*this, nullptr, CommandReport::withoutBanner("No Clusters found"), err);
+
+    std::string text;
+    // The record describes the last cluster walked, whether shown or not.
+    HCluster* last = nullptr;
+    for (HCluster* cluster : clusters->items) {
+        last = cluster;
+        if (scope.covers(*cluster))
+            text += getSummaryText_Cluster(*cluster->getClusterId());
+    }
+    KClusterInfo const* const info = last->getClusterInfo();
+    CommandReport const report =
+        CommandReport::withoutBanner(text, MHBA_S_OK, info, info ? sizeof(KClusterInfo) : 0);
+    return finishCommand(*this, nullptr, report, err);
 }

@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdDemonstrationSave.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
 
 namespace {
 
@@ -28,5 +30,15 @@ CmdDemonstrationSave::CmdDemonstrationSave()
 
 int CmdDemonstrationSave::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    std::string file;
+    if (int const rc = findAdapterAndFile(*this, target, file, err))
+        return rc;
+    // The library writes what it holds of the whole SAN, under the name as given.
+    if (int const rc = g_pHbaMgmtApi->saveDemonstrationFile(file, err))
+        return rc;
+    err.clear();
+    CommandReport report;
+    report.text = "DEMONSTRATION file saved successfully\n";
+    return finishCommand(*this, target.adapter, report, err);
 }

@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdFileGet.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
+
 
 namespace {
 
@@ -35,5 +37,16 @@ CmdFileGet::CmdFileGet()
 
 int CmdFileGet::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    std::string file;
+    AdapterFileKeywords adapterFile;
+    if (int const rc = findAdapterFileCopy(*this, target, file, adapterFile, err))
+        return rc;
+    if (int const rc = target.adapter->getFile(file.c_str(), adapterFile.nameOrNull(), adapterFile.clear))
+        return rc;
+    CommandReport report;
+    report.text = adapterFile.named ? "Fibre Channel Adapter file \"" + adapterFile.name +
+                                          "\" saved successfully to file: \"" + file + "\""
+                                    : "File \"" + file + "\" saved successfully";
+    return finishCommand(*this, target.adapter, report, err);
 }

@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdFilePut.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
+
 
 namespace {
 
@@ -35,5 +37,16 @@ CmdFilePut::CmdFilePut()
 
 int CmdFilePut::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    std::string file;
+    AdapterFileKeywords adapterFile;
+    if (int const rc = findAdapterFileCopy(*this, target, file, adapterFile, err))
+        return rc;
+    if (int const rc = target.adapter->putFile(file.c_str(), adapterFile.nameOrNull(), adapterFile.clear))
+        return rc;
+    CommandReport report;
+    report.text = "\"" + file + "\" copied successfully to Fibre Channel Adapter";
+    if (adapterFile.named)
+        report.text += " file \"" + adapterFile.name + "\"";
+    return finishCommand(*this, target.adapter, report, err);
 }

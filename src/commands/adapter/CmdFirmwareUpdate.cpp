@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdFirmwareUpdate.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -28,5 +30,21 @@ CmdFirmwareUpdate::CmdFirmwareUpdate()
 
 int CmdFirmwareUpdate::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    std::string file;
+    if (int const rc = findAdapterAndFile(*this, target, file, err))
+        return rc;
+    e_MHBA_RETURN const rc = target.adapter->updateFirmware(file.c_str());
+    if (rc > MHBA_S_OK_REBOOT_REQUIRED) {
+        if (!displayIpAddress(target.adapter, err))
+            return ZEKCLI_OUTPUT_FAIL;
+        return rc;
+    }
+    CommandReport report;
+    report.text = rc == MHBA_S_OK_REBOOT_REQUIRED
+                      ? "Firmware update complete --> 'restart adapter' is required for changes to take effect"
+                      : "Firmware update complete";
+    // An update leaves no result record behind, whatever its outcome.
+    report.writeResult = false;
+    return finishCommand(*this, target.adapter, report, err);
 }

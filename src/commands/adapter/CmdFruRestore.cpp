@@ -1,8 +1,9 @@
 #include "commands/adapter/CmdFruRestore.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
 
 namespace {
 
@@ -28,5 +29,19 @@ CmdFruRestore::CmdFruRestore()
 
 int CmdFruRestore::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    std::string file;
+    if (int const rc = findAdapterAndFile(*this, target, file, err))
+        return rc;
+    e_MHBA_RETURN const rc = target.adapter->restoreFruFile(file);
+    if (rc > MHBA_S_OK_REBOOT_REQUIRED)
+        return rc;
+    // The data are restored; should the output fail, the user still learns it.
+    CommandReport report;
+    report.text = "Restore successful -- 'restart adapter' is required for changes to take effect";
+    report.resultCode = rc;
+    std::string outputErr;
+    int const outcome = finishCommand(*this, target.adapter, report, outputErr);
+    err = outcome == 0 ? std::string() : "FRU file restored successfully\n\n";
+    return outcome;
 }

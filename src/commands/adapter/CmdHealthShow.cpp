@@ -1,8 +1,11 @@
 #include "commands/adapter/CmdHealthShow.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "records/KAdapterHealthInfo.h"
+#include "records/KIsaAdapterInfo.h"
 
 namespace {
 
@@ -27,5 +30,9 @@ CmdHealthShow::CmdHealthShow()
 
 int CmdHealthShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    KIsaAdapterInfo info;
+    if (int const rc = findAdapterAndInfo(*this, target, info, err))
+        return rc;
+    return showAdapterRecord(*this, *target.adapter, &HIsaAdapter::getAdapterHealth, err);
 }

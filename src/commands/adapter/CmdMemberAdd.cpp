@@ -1,8 +1,9 @@
 #include "commands/adapter/CmdMemberAdd.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/ClusterScope.h"
 
 namespace {
 
@@ -32,5 +33,17 @@ CmdMemberAdd::CmdMemberAdd()
 
 int CmdMemberAdd::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter primary;
+    AddressedAdapter member;
+    KClusterID id;
+    if (int const rc = findPrimaryAndMember(*this, primary, member, id, err))
+        return rc;
+    e_MHBA_RETURN const rc = primary.adapter->addClusterMember(member.path, id);
+    if (rc == MHBA_E_OBJECT_NOT_FOUND)
+        err = "Cluster \"" + id.displayText() + "\" was not found.  Members can only be added to pre-existing clusters.";
+    if (rc != MHBA_S_OK)
+        return rc;
+    std::string const text = "Fibre Channel Adapter " + member.path.displayText() + " successfully added to cluster " +
+                             id.displayText() + "\n";
+    return finishCommand(*this, primary.adapter, CommandReport::withoutBanner(text), err);
 }

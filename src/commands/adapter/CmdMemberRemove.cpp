@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdMemberRemove.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/ClusterScope.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -37,5 +39,25 @@ CmdMemberRemove::CmdMemberRemove()
 
 int CmdMemberRemove::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter primary;
+    AddressedAdapter member;
+    KClusterID id;
+    if (int const rc = findPrimaryAndMember(*this, primary, member, id, err))
+        return rc;
+    TokenModifierString const* const acceptRisk = findModifier(ModifierId::MODIFIER_ACCEPT_RISK, err);
+    if (!acceptRisk)
+        return ZEKCLI_PARSE_FAIL;
+    // The prompt's text is kept word for word as users and scripts know it.
+    if (!keywordGiven(acceptRisk) &&
+        !confirmRisk("Future access via this adapter to to LUNs cached on other adapters in the cluster may result in "
+                     "corruption of user data.  It is strongly recommended that this adapter be removed either "
+                     "physically or from the FC zone.  Are you sure you want to remove this member from the cluster "
+                     "[yes/no]? "))
+        return ZEKCLI_CONFIRM_FAIL;
+
+    if (int const rc = primary.adapter->removeClusterMember(member.path, id))
+        return rc;
+    std::string const text = "Fibre Channel Adapter " + member.path.displayText() + " successfully removed from cluster " +
+                             id.displayText() + "\n";
+    return finishCommand(*this, primary.adapter, CommandReport::withoutBanner(text), err);
 }

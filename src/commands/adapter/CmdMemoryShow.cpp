@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdMemoryShow.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "records/KMemoryInfo.h"
 
 namespace {
 
@@ -26,5 +28,8 @@ CmdMemoryShow::CmdMemoryShow()
 
 int CmdMemoryShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    if (int const rc = findAddressedAdapter(*this, target, err))
+        return rc;
+    return showAdapterRecord(*this, *target.adapter, &HIsaAdapter::getMemoryInfo, err);
 }

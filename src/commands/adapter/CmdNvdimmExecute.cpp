@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdNvdimmExecute.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/NvdimmSupport.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -49,5 +51,17 @@ CmdNvdimmExecute::CmdNvdimmExecute()
 
 int CmdNvdimmExecute::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    if (int const rc = findNvdimmAdapter(*this, target, err))
+        return rc;
+    int command = 0;
+    if (int const rc = nvdimmCommandFromFlags(*this, command, err))
+        return rc;
+    if (int const rc = target.adapter->executeNvdimmCommand(command))
+        return rc;
+    CommandReport report;
+    report.banner = false;
+    report.writeResult = false;
+    report.text = nvdimmDoneText(command);
+    return finishCommand(*this, target.adapter, report, err);
 }

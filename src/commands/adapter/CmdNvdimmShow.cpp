@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdNvdimmShow.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/NvdimmSupport.h"
+#include "records/KNvdimmInfo.h"
 
 namespace {
 
@@ -27,5 +29,8 @@ CmdNvdimmShow::CmdNvdimmShow()
 
 int CmdNvdimmShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    if (int const rc = findNvdimmAdapter(*this, target, err))
+        return rc;
+    return showAdapterRecord(*this, *target.adapter, &HIsaAdapter::getNvdimmInfo, err);
 }

@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdPasswordSet.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -12,6 +14,9 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_OLD_PASSWORD, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+// The adapter has one management account.
+char const* const kAccount = "admin";
 
 } // namespace
 
@@ -31,5 +36,21 @@ CmdPasswordSet::CmdPasswordSet()
 
 int CmdPasswordSet::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    if (int const rc = findAddressedAdapter(*this, target, err))
+        return rc;
+    err.clear();
+    TokenModifierString const* const newPassword = findModifier(ModifierId::MODIFIER_RPC_PASSWORD, err);
+    if (!newPassword)
+        return ZEKCLI_PARSE_FAIL;
+    TokenModifierString const* const oldPassword = findModifier(ModifierId::MODIFIER_OLD_PASSWORD, err);
+    if (!oldPassword)
+        return ZEKCLI_PARSE_FAIL;
+    // A left-out old password passes what its keyword holds; the adapter
+    // judges it.
+    if (int const rc = target.adapter->setPassword(kAccount, oldPassword->value.c_str(), newPassword->value.c_str()))
+        return rc;
+    CommandReport report;
+    report.text = "Password has been changed";
+    return finishCommand(*this, target.adapter, report, err);
 }

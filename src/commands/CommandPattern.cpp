@@ -1,0 +1,101 @@
+#include "commands/CommandPattern.h"
+
+#include <cstring>
+
+#include "api/HbaMgmtInterfaces.h"
+#include "api/HbaMgmtLoader.h"
+#include "core/Token.h"
+#include "core/TokenCmd.h"
+#include "core/ZekcliReturn.h"
+#include "records/KIsaAdapterInfo.h"
+#include "records/PIpAddress.h"
+
+namespace {
+
+constexpr size_t kReplyBytes = 32;
+
+} // namespace
+
+int findAddressedAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err)
+{
+    return findAdapterFromKeyword(cmd, ModifierId::MODIFIER_ZEK, target, err);
+}
+
+int findAdapterAndInfo(TokenCmd& cmd, AddressedAdapter& target, KIsaAdapterInfo& info, std::string& err)
+{
+    if (int const rc = findAddressedAdapter(cmd, target, err))
+        return rc;
+    return target.adapter->getAdapterInfo(info);
+}
+
+int findAdapterFromKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id, AddressedAdapter& target, std::string& err)
+{
+    target.adapter = nullptr;
+    int const rc = cmd.selectAdapterFromKeyword(id, target.path, err);
+    if (rc != 0)
+        return rc;
+    target.adapter = g_pHbaMgmtApi->getAdapters()->find(target.path);
+    if (!target.adapter)
+        return MHBA_E_ADAPTER_NOT_IN_COLLECTION;
+    return 0;
+}
+
+int rescanFromAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err)
+{
+    target.adapter = nullptr;
+    g_pHbaMgmtApi->clearAdapters();
+    g_pHbaMgmtApi->clearClusters();
+    uint32_t count = 0;
+    int const rc = g_pHbaMgmtApi->scanFromAdapter(target.path, &count);
+    if (rc != 0)
+        return rc;
+    return findAddressedAdapter(cmd, target, err);
+}
+
+bool readAgentAddress(TokenCmd& cmd, PIpAddress& agent, std::string& err)
+{
+    bool given = false;
+    if (!cmd.getIpAddressFromCommandLineModifierIfFound(ModifierId::MODIFIER_AGENT, agent, given, err))
+        return false;
+    if (!given)
+        agent.init();
+    return true;
+}
+
+bool keywordGiven(TokenModifierString const* keyword)
+{
+    return keyword && !keyword->isDefault;
+}
+
+bool reachedThroughAgent(KIsaAdapterPath const& path)
+{
+    return path.ipAddrRemoteAgentHost().getType() != PIpAddress::IPV_NOT_SET;
+}
+
+int finishCommand(TokenCmd const& cmd, HIsaAdapter* adapter, CommandReport const& report, std::string& err)
+{
+    if (report.banner && !cmd.displayIpAddress(adapter, err))
+        return ZEKCLI_OUTPUT_FAIL;
+    if (!cmd.outDisplay(report.text, err))
+        return ZEKCLI_OUTPUT_FAIL;
+    if (report.writeResult && !cmd.outResult(report.resultCode, report.data, report.size, err))
+        return ZEKCLI_OUTPUT_FAIL;
+    return 0;
+}
+
+std::string readReplyLine(FILE* in)
+{
+    char buffer[kReplyBytes + 1] = {};
+    if (!in || !fgets(buffer, sizeof buffer, in))
+        return std::string();
+    buffer[strcspn(buffer, "\n")] = '\0';
+    return buffer;
+}
+
+bool confirmRisk(std::string const& prompt, FILE* in)
+{
+    fputs(prompt.c_str(), stdout);
+    // The reply is typed on the same line, so the prompt must be out first.
+    fflush(stdout);
+    return readReplyLine(in) == "yes";
+}
