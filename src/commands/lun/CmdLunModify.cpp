@@ -64,12 +64,9 @@ CmdLunModify::CmdLunModify()
 int CmdLunModify::execCommand(std::string& err)
 {
     AddressedAdapter addressed;
-    if (int const rc = findAddressedAdapter(*this, addressed, err))
-        return rc;
-    err.clear();
     std::vector<PLunID> ids;
-    if (!getLunIdFromCommandLine(addressed.adapter, false, true, ids, err))
-        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = findAdapterAndLuns(*this, addressed, true, ids, err))
+        return rc;
     if (int const rc = checkLunTargetKeywords(*this, err))
         return rc;
     PLunID const lun = ids.front();

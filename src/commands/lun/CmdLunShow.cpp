@@ -78,11 +78,9 @@ int CmdLunShow::execCommand(std::string& err)
 int CmdLunShow::showThroughOneAdapter(std::string& err)
 {
     AddressedAdapter addressed;
-    if (int const rc = findAddressedAdapter(*this, addressed, err))
-        return rc;
     std::vector<PLunID> ids;
-    if (!getLunIdFromCommandLine(addressed.adapter, false, false, ids, err))
-        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = findAdapterAndLuns(*this, addressed, false, ids, err))
+        return rc;
     // What the resolution had to say (no LUNs, a partial gathering) leads the output.
     std::string text = err;
     err.clear();

@@ -33,11 +33,9 @@ CmdReservationClear::CmdReservationClear()
 int CmdReservationClear::execCommand(std::string& err)
 {
     AddressedAdapter addressed;
-    if (int const rc = findAddressedAdapter(*this, addressed, err))
-        return rc;
     std::vector<PLunID> ids;
-    if (!getLunIdFromCommandLine(addressed.adapter, false, true, ids, err))
-        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = findAdapterAndLuns(*this, addressed, true, ids, err))
+        return rc;
     if (int const rc = addressed.adapter->clearReservation(ids.front())) {
         err.clear();
         return rc;

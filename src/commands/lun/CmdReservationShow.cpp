@@ -30,16 +30,16 @@ CmdReservationShow::CmdReservationShow()
     helpExamples = ugCommandPrompt() + "-zek=0"
         + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KLunReservationInfo", 32, "reservation record");
+    helpNotes = "The result file holds no reservation records: its count is always 0, and its\n"
+        "return code tells whether the reservations of all selected LUNs could be read.";
 }
 
 int CmdReservationShow::execCommand(std::string& err)
 {
     AddressedAdapter addressed;
-    if (int const rc = findAddressedAdapter(*this, addressed, err))
-        return rc;
     std::vector<PLunID> ids;
-    if (!getLunIdFromCommandLine(addressed.adapter, false, false, ids, err))
-        return ZEKCLI_PARSE_FAIL;
+    if (int const rc = findAdapterAndLuns(*this, addressed, false, ids, err))
+        return rc;
     std::string const resolution = err;
     if (!displayIpAddress(addressed.adapter, err))
         return ZEKCLI_OUTPUT_FAIL;

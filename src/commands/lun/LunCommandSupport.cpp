@@ -92,6 +92,17 @@ int scanAdapterGroupLuns(TokenCmd& cmd, PIpAddress& agent, std::string& err)
     return g_pHbaMgmtApi->scanAdapterGroupLuns(paths, err);
 }
 
+int findAdapterAndLuns(TokenCmd& cmd, AddressedAdapter& addressed, bool oneLunRequired, std::vector<PLunID>& luns,
+                       std::string& err)
+{
+    if (int const rc = findAddressedAdapter(cmd, addressed, err))
+        return rc;
+    err.clear();
+    if (!cmd.getLunIdFromCommandLine(addressed.adapter, false, oneLunRequired, luns, err))
+        return ZEKCLI_PARSE_FAIL;
+    return 0;
+}
+
 HIsaAdapter* findAdapterById(unsigned long long id)
 {
     for (HIsaAdapter* adapter : g_pHbaMgmtApi->getAdapters()->items)

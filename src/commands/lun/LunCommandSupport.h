@@ -10,6 +10,7 @@
 
 #include "api/MhbaReturn.h"
 
+struct AddressedAdapter;
 class HIsaAdapter;
 class HLun;
 class PLunID;
@@ -80,6 +81,13 @@ private:
 // library's adapter group list. `agent` is the address used. Returns 0, 1105
 // for an unusable -agent, or the library's code.
 int scanAdapterGroupLuns(TokenCmd& cmd, PIpAddress& agent, std::string& err);
+
+// Selects the adapter (-zek) and resolves the LUN keywords on it, as every
+// command addressed to LUNs of one adapter begins. Returns 0, the
+// selection's code, or 52 when the keywords do not name what is needed; the
+// resolution may leave words in `err` for the caller to show.
+int findAdapterAndLuns(TokenCmd& cmd, AddressedAdapter& addressed, bool oneLunRequired, std::vector<PLunID>& luns,
+                       std::string& err);
 
 // The adapter the library holds with this identifier, or null.
 HIsaAdapter* findAdapterById(unsigned long long id);

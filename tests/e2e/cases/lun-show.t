@@ -1,9 +1,10 @@
 With -zek, show lun shows the selected LUN paths as that adapter sees them.
 A LUN that this adapter caches shows its WWULN and serial keywords, its
 record, its paths, its I/O statistics, the cache settings and the cache
-statistics.
+statistics. The figures of the paths and the statistics are the adapter's
+and are masked here.
 
-  $ hostcli -zek show lun -zek=0 -lun_number=0 -fc_target=5006-0160-39A0-1122 -vpgindex=1
+  $ hostcli -zek show lun -zek=0 -lun_number=0 -fc_target=5006-0160-39A0-1122 -vpgindex=1 | sed -E '/Port ID|I\/O Count|Read\/Write I\/O|Capacity Used|Read Data|Cache Hits/s/(=|:) .*/\1 (figure)/'
   [ Device 0 on local host ]
   
   -lun_number=0 -fc_target=5006-0160-39A0-1122
@@ -23,15 +24,15 @@ statistics.
       LUN Path Info:
               WWPN = 5006-0160-39A0-1122
               WWNN = 5006-0160-89A0-1122
-              Port ID = 00-01-02
+              Port ID = (figure)
               Status:  Active Current Optimized
               WWPN = 5006-0168-39A0-1122
               WWNN = 5006-0160-89A0-1122
-              Port ID = 00-02-02
+              Port ID = (figure)
               Status:  Passive
       LUN I/O Statistics:
-          I/O Count Read/Write:       [ 110415299	/ 40055192 ]
-          Read/Write I/O:             [ 2.77TB	/ 210GB ]
+          I/O Count Read/Write: (figure)
+          Read/Write I/O: (figure)
       LUN Cache Info:
           Mode: Read_Write_Back (mirrored at adapter 2000001B32A10D00)
           Mirror State:  0x101 (Configured, In Synchrony)
@@ -46,13 +47,13 @@ statistics.
           -lun_start_lba=1048576 -lun_size_lba=8192
   
       LUN Cache Statistics:
-          Cache Capacity Used (Clean) = 64GB
-          Cache Capacity Used (Dirty) = 512MB
-          Cache Capacity Used (Locked) = 5MB
-          Read Data                   = 2.77TB
-          Cache Hits (Read Load))     = 2.47TB	(89.0% of Read Data)
-          Cache Hits (Write Load)     = 398GB	(14.0% of Read Data)
-          Cache Hits (Total)          = 2.85TB	(103.0% of Read Data)
+          Cache Capacity Used (Clean) = (figure)
+          Cache Capacity Used (Dirty) = (figure)
+          Cache Capacity Used (Locked) = (figure)
+          Read Data                   = (figure)
+          Cache Hits (Read Load))     = (figure)
+          Cache Hits (Write Load)     = (figure)
+          Cache Hits (Total)          = (figure)
   
   
   $ hostcli -zek show lun -zek=0 -lun_number=0 -fc_target=5006-0160-39A0-1122 -vpgindex=1 -result=one.dat -quiet
@@ -71,25 +72,25 @@ statistics.
 The adapter that mirrors the cache sees the LUN cached on its peer: only the
 mirror's text follows, no cache settings and no cache statistics.
 
-  $ hostcli -zek show lun -zek=1 -lun_number=0 -fc_target=5006-0160-39A0-1122 -vpgindex=1 | sed -n '25,$p'
+  $ hostcli -zek show lun -zek=1 -lun_number=0 -fc_target=5006-0160-39A0-1122 -vpgindex=1 | sed -n '25,$p' | sed -E '/Port ID|I\/O Count|Read\/Write I\/O|Capacity Used|Read Data|Cache Hits/s/(=|:) .*/\1 (figure)/'
               Status:  Passive
       LUN I/O Statistics:
-          I/O Count Read/Write:       [ 110415299	/ 40055192 ]
-          Read/Write I/O:             [ 2.77TB	/ 210GB ]
+          I/O Count Read/Write: (figure)
+          Read/Write I/O: (figure)
       (LUN is cached on remote adapter 2000001B32A10C00)
           Mirror State:  0x101 (Configured, In Synchrony)
           Mirror Flag: Peer Mirror Cache Done
-          Mirror LUN Dirty Cache Capacity Used: 512MB
+          Mirror LUN Dirty Cache Capacity Used: (figure)
   
 
 A LUN cached on a peer with no mirror shows nothing more than the remark.
 
-  $ hostcli -zek show lun -zek=0 -lun_number=1 -fc_target=2100-0024-FF3C-5A10 -vpgindex=1 | sed -n '20,$p'
-              Port ID = 00-01-03
+  $ hostcli -zek show lun -zek=0 -lun_number=1 -fc_target=2100-0024-FF3C-5A10 -vpgindex=1 | sed -n '20,$p' | sed -E '/Port ID|I\/O Count|Read\/Write I\/O|Capacity Used|Read Data|Cache Hits/s/(=|:) .*/\1 (figure)/'
+              Port ID = (figure)
               Status:  Active Current Optimized
       LUN I/O Statistics:
-          I/O Count Read/Write:       [ 70360107	/ 3425773 ]
-          Read/Write I/O:             [ 335.50GB	/ 114.34GB ]
+          I/O Count Read/Write: (figure)
+          Read/Write I/O: (figure)
       (LUN is cached on remote adapter 2000001B32A10D00)
   
   
