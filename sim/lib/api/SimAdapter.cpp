@@ -550,6 +550,12 @@ e_MHBA_RETURN SimAdapter::getAdapterInfo(KIsaAdapterInfo& out)
         if (rc != code::Ok)
             return asReturn(rc);
     }
+    if (a && a->state != 1) {
+        // The library knows an offline adapter, and says so in its description.
+        fillAdapterInfo(*san, *a, out);
+        refresh(*san, *a);
+        return MHBA_S_OK;
+    }
     return asReturn(withAdapter("getAdapterInfo", [&](const San& s, const Adapter& adapter) {
         fillAdapterInfo(s, adapter, out);
         refresh(s, adapter);
@@ -686,9 +692,10 @@ e_MHBA_RETURN SimAdapter::createLun(uint64_t sizeBytes, const std::string& name,
         return asReturn(rc);
     const San* san = backend_.view();
     const Lun* lun = nullptr;
-    for (const Lun& l : san ? san->luns : std::vector<Lun>{})
-        if (l.wwuln == wwuln)
-            lun = &l;
+    if (san)
+        for (const Lun& l : san->luns)
+            if (l.wwuln == wwuln)
+                lun = &l;
     if (!lun)
         return asReturn(code::StateFileError);
     newLun = wwulnId(*lun);

@@ -153,8 +153,13 @@ e_MHBA_RETURN SimApi::testAgentConnection(PIpAddress& agent, std::string& error)
     if (!san)
         return asReturn(code::StateFileError);
     std::string host = agentText(agent);
-    if (agentAnswers(*san, host) == code::Ok)
+    if (agentAnswers(*san, host) == code::Ok) {
+        // From now on this session works through that agent: its adapters
+        // are the ones present without a scan.
+        if (!localsPresented_)
+            sessionHost_ = host;
         return MHBA_S_OK;
+    }
     error = "No remote agent answers at " + host;
     return MHBA_E_AGENT_NOT_RESPONDING;
 }
@@ -198,7 +203,7 @@ HIsaAdapterCollection* SimApi::getAdapters()
         localsPresented_ = true;
         if (const San* san = backend_.view())
             for (const Adapter& a : san->adapters)
-                if (a.host.empty() && a.device >= 0)
+                if (a.host == sessionHost_ && a.device >= 0)
                     hold(*san, a);
     }
     return &adapters_;
@@ -221,8 +226,6 @@ e_MHBA_RETURN SimApi::checkAdapterPath(KIsaAdapterPath& path)
     const Adapter* a = adapterForPath(*san, path);
     if (!a)
         return MHBA_E_OBJECT_NOT_FOUND;
-    if (a->state != 1)
-        return asReturn(code::AdapterNotResponding);
     localsPresented_ = true;
     path = *hold(*san, *a)->getAdapterPath();
     return MHBA_S_OK;
@@ -303,11 +306,11 @@ e_MHBA_RETURN SimApi::scanFromAdapter(const KIsaAdapterPath& path, uint32_t* cou
     const San* san = backend_.view();
     if (!san)
         return asReturn(code::StateFileError);
+    // The scan runs from the host side, so an adapter that is down still
+    // shows where it stands.
     const Adapter* a = adapterForPath(*san, path);
     if (!a)
         return MHBA_E_OBJECT_NOT_FOUND;
-    if (!answers(*a, backend_.now()))
-        return asReturn(code::AdapterNotResponding);
     std::string host = a->host;
     return asReturn(scanHost(host, count));
 }

@@ -10,6 +10,7 @@
 #include "records/KLibraryVersionInfo.h"
 #include "records/KLogEntry.h"
 #include "records/KLunInfo.h"
+#include "records/KPoolInfo.h"
 #include "records/KTargetInfo.h"
 
 #include <gtest/gtest.h>
@@ -135,8 +136,28 @@ TEST_F(SimApiTest, CheckAdapterPathCompletesOpenFields)
     EXPECT_NE(api->getAdapters()->find(byId), nullptr);
     KIsaAdapterPath missing = devicePath(7);
     EXPECT_EQ(api->checkAdapterPath(missing), MHBA_E_OBJECT_NOT_FOUND);
+    // An offline adapter is known: its description says it is offline, and
+    // it answers nothing else.
     KIsaAdapterPath offline = sanPath(kOffline);
-    EXPECT_EQ(api->checkAdapterPath(offline), 1006);
+    ASSERT_EQ(api->checkAdapterPath(offline), MHBA_S_OK);
+    HIsaAdapter* down = api->getAdapters()->find(offline);
+    ASSERT_NE(down, nullptr);
+    KIsaAdapterInfo info;
+    ASSERT_EQ(down->getAdapterInfo(info), MHBA_S_OK);
+    EXPECT_EQ(info.adapterState, 2);
+    KPoolInfo pool;
+    EXPECT_EQ(down->getPoolInfo(pool), 1006);
+}
+
+TEST_F(SimApiTest, ASessionThroughAnAgentPresentsThatHostsAdapters)
+{
+    PIpAddress agent;
+    std::string error;
+    ASSERT_TRUE(api->textToIpAddress("127.0.10.1", agent, error));
+    ASSERT_EQ(api->testAgentConnection(agent, error), MHBA_S_OK);
+    HIsaAdapterCollection* all = api->getAdapters();
+    ASSERT_EQ(all->items.size(), 1u);
+    EXPECT_EQ(all->items[0]->getAdapterPath()->isaHbaId(), 0x2000001B32B20100ull);
 }
 
 TEST_F(SimApiTest, LocalScanGivesClustersAndThePseudoCluster)
@@ -474,4 +495,20 @@ TEST_F(SimApiTest, DrivesJoinAndLeaveThePool)
     ssd.initWwulnLunID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(text.size()),
                        reinterpret_cast<unsigned char*>(text.data()));
     EXPECT_EQ(dev0->removeDriveFromPoolBySsdId(ssd), MHBA_S_OK);
+}
+
+TEST_F(SimApiTest, CreatedLunsHaveAWwulnOfTheirAdapter)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    KWwulnLunID made;
+    ASSERT_EQ(dev0->createLun(10ull << 30, "fresh", 1, kDev0, made), MHBA_S_OK);
+    PBase::WWULN_CODE_SET_TYPE codeSet;
+    unsigned short length = 0;
+    unsigned char bytes[KWwulnLunID::WWULN_COPY_SIZE];
+    ASSERT_TRUE(made.copyWwulnInfo(codeSet, length, bytes, sizeof bytes));
+    EXPECT_EQ(codeSet, PBase::WWULN_CODE_SET_BINARY);
+    ASSERT_EQ(length, 16);
+    EXPECT_EQ(bytesToHex(bytes, length), "2000001B32A10C000000000000000002");
+    KWwulnLunID again;
+    EXPECT_EQ(adapter(1)->createLun(10ull << 30, "", 1, kDev0, again), MHBA_E_NOT_SUPPORTED);
 }
