@@ -1,0 +1,24 @@
+Faults injected with hbasim reach the command line as the adapter's answer.
+
+A gathering operation that succeeds only in part: the command says so.
+
+  $ hbasim partial zek-prod-a getTargetsAndInitiators 1206
+  $ hostcli -zek list lun -zek=0 | grep partial
+  getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned Object not found
+
+A fault given once answers once; the next request goes through.
+
+  $ hbasim fault zek-prod-a enableCache 1003
+  $ hostcli -zek enable cache -zek=0 -mode=read_write_through -lun_number=1 -fc_target=50:06:01:60:39:A0:11:22 | grep -o 'The feature is not supported by this adapter'
+  The feature is not supported by this adapter
+  $ hostcli -zek enable cache -zek=0 -mode=read_write_through -lun_number=1 -fc_target=50:06:01:60:39:A0:11:22 | grep -c Successfully
+  1
+  $ hbasim faults
+  Faults:
+    none
+
+An adapter taken offline describes itself so.
+
+  $ hbasim offline adapter zek-dr-site
+  $ hostcli -zek show adapter -zek=zek-dr-site | grep -c 'OFFLINE'
+  1
