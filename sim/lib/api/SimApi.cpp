@@ -178,8 +178,10 @@ e_MHBA_RETURN SimApi::saveDemonstrationFile(const std::string& file, std::string
 
 e_MHBA_RETURN SimApi::loadDemonstrationFile(const std::string& file, std::string& error)
 {
-    if (!backend_.loadDemonstration(file, error))
+    if (!backend_.loadDemonstration(file, error)) {
+        backend_.warning(error);
         return asReturn(code::FileError);
+    }
     adapters_.clear();
     clusters_.clear();
     groupLuns_.items.clear();
