@@ -52,6 +52,16 @@ int rescanFromAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err)
     return findAddressedAdapter(cmd, target, err);
 }
 
+int rescanAdapters(PIpAddress& agent, bool& noneFound)
+{
+    g_pHbaMgmtApi->clearAdapters();
+    g_pHbaMgmtApi->clearClusters();
+    uint32_t count = 0;
+    int const rc = g_pHbaMgmtApi->scanAdapters(agent, &count);
+    noneFound = rc == MHBA_E_NO_ADAPTER_FOUND;
+    return noneFound ? 0 : rc;
+}
+
 bool readAgentAddress(TokenCmd& cmd, PIpAddress& agent, std::string& err)
 {
     bool given = false;

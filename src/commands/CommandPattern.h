@@ -39,6 +39,11 @@ int findAdapterFromKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id, AddressedA
 // replaces the library's objects, the adapter is selected and found anew.
 int rescanFromAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err);
 
+// Forgets every earlier scan and scans this host, or the host of the agent
+// when its address is set. Finding no adapter at all is an answer, not a
+// failure: the result is then 0 with `noneFound` set.
+int rescanAdapters(PIpAddress& agent, bool& noneFound);
+
 // The -agent address; the empty address, meaning this host, when not given.
 // False when the address cannot be read.
 bool readAgentAddress(TokenCmd& cmd, PIpAddress& agent, std::string& err);

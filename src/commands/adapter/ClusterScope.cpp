@@ -1,7 +1,5 @@
 #include "commands/adapter/ClusterScope.h"
 
-#include <cstdint>
-
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "core/Token.h"
@@ -40,10 +38,9 @@ int scanForScope(TokenCmd& cmd, ClusterScope& scope, PIpAddress& agent, std::str
             return rc;
         return rescanFromAdapter(cmd, scope.named, err);
     }
-    g_pHbaMgmtApi->clearAdapters();
-    g_pHbaMgmtApi->clearClusters();
-    uint32_t count = 0;
-    return g_pHbaMgmtApi->scanAdapters(agent, &count);
+    // With no adapter at all the report says that no cluster was found.
+    bool noneFound = false;
+    return rescanAdapters(agent, noneFound);
 }
 
 // The named adapter's own cluster decides what the report covers; when it

@@ -1,6 +1,5 @@
 #include "commands/adapter/CmdAdapterList.h"
 
-#include <cstdint>
 #include <vector>
 
 #include "api/HbaMgmtInterfaces.h"
@@ -52,10 +51,9 @@ int CmdAdapterList::execCommand(std::string& err)
     if (!zek)
         return ZEKCLI_PARSE_FAIL;
 
-    g_pHbaMgmtApi->clearAdapters();
-    g_pHbaMgmtApi->clearClusters();
-    uint32_t count = 0;
-    if (int const rc = g_pHbaMgmtApi->scanAdapters(agent, &count))
+    // An empty host lists no clusters rather than failing.
+    bool noneFound = false;
+    if (int const rc = rescanAdapters(agent, noneFound))
         return rc;
     std::vector<KClusterID> ids;
     for (HCluster* cluster : g_pHbaMgmtApi->getClusters()->items)

@@ -1,6 +1,5 @@
 #include "commands/adapter/CmdAdapterShow.h"
 
-#include <cstdint>
 #include <vector>
 
 #include "api/HbaMgmtInterfaces.h"
@@ -51,16 +50,9 @@ std::string unreachableText(KIsaAdapterPath const& path)
 int collectLocalAdapters(PIpAddress& agent, std::vector<KIsaAdapterPath>& paths, bool& noneFound)
 {
     noneFound = false;
-    if (g_pHbaMgmtApi->getAdapters()->items.empty()) {
-        g_pHbaMgmtApi->clearAdapters();
-        g_pHbaMgmtApi->clearClusters();
-        uint32_t count = 0;
-        int const rc = g_pHbaMgmtApi->scanAdapters(agent, &count);
-        if (rc == MHBA_E_NO_ADAPTER_FOUND)
-            noneFound = true;
-        else if (rc != 0)
+    if (g_pHbaMgmtApi->getAdapters()->items.empty())
+        if (int const rc = rescanAdapters(agent, noneFound))
             return rc;
-    }
     for (HIsaAdapter* adapter : g_pHbaMgmtApi->getAdapters()->items)
         if (adapter->getAdapterPath()->isLocalDevice())
             paths.push_back(*adapter->getAdapterPath());
