@@ -31,6 +31,15 @@ cannot apply at once are refused before anything is sent.
   \r             \r*** Object not found (esc)
   [255]
 
+The largest size passes the command's own check and goes to the adapter,
+which here has not the room.
+
+  $ hostcli -zek modify lun $T -size=1000
+  [ Device 0 on local host ]
+  
+  \r             \r*** Not enough free SSD storage for the request (esc)
+  [255]
+
 The LUN must be named, and be one.
 
   $ hostcli -zek modify lun -zek=0 -fc_target=2100-001B-32A1-0C00 -name=X

@@ -190,3 +190,11 @@ together) are passed over without a word.
       LUN State  = 0x801 ( Online, Mapped)
   -lun_number=40 -fc_target=5006-0160-3BE0-1234
       LUN State  = 0x48801 ( Online, Mapped, Remote, Storage Media SSD)
+
+Through a remote agent, the adapters are named behind the agent's keyword.
+
+  $ hbasim reset > /dev/null
+  $ hostcli -zek show lun -agent=127.0.10.1 | grep -A2 '^Adapters with' | sed -n '5,7p'
+  Adapters with access to this LUN:
+      -agent=127.0.10.1 -zek=2000001B32B20100
+  -lun_number=1 -fc_target=5006-0160-39A0-1122
