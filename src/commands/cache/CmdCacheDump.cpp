@@ -107,6 +107,9 @@ int CmdCacheDump::dumpRepeatedly(HIsaAdapter& adapter, std::string const& folder
         std::string const text = displayCacheInfoFile(path) + "\n";
         if (!outDisplay(text, err) || !outDisplay(text, err))
             return ZEKCLI_OUTPUT_FAIL;
+        // The loop only ends with the process, so a round's text must not
+        // wait in a buffer that a kill would throw away.
+        fflush(stdout);
         sleep(seconds);
     }
 }
