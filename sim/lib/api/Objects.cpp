@@ -1,5 +1,7 @@
 #include "api/Objects.h"
 
+#include <algorithm>
+
 namespace sim {
 
 void retire(std::shared_ptr<void> object)
@@ -8,20 +10,24 @@ void retire(std::shared_ptr<void> object)
     kept->push_back(std::move(object));
 }
 
+std::string idKey(const PUniqueID& id)
+{
+    int32_t type = id.getIdType();
+    std::string key(reinterpret_cast<const char*>(&type), sizeof type);
+    int length = std::clamp<int>(id.getDataLength(), 0, PUniqueID::DATA_SIZE);
+    key.append(reinterpret_cast<const char*>(id.getData()), static_cast<size_t>(length));
+    return key;
+}
+
 void SimLunIdList::addUnique(const PLunID& id)
 {
-    for (const PLunID& known : ids)
-        if (known == id)
-            return;
-    ids.push_back(id);
+    if (keys_.insert(idKey(id)).second)
+        ids.push_back(id);
 }
 
 HTarget* SimTargetCollection::find(const PTargetID& id)
 {
-    for (const auto& t : owned())
-        if (t->id == id)
-            return t.get();
-    return nullptr;
+    return lookup(id);
 }
 
 SimTarget* SimTargetCollection::byName(const std::string& name)
@@ -34,26 +40,17 @@ SimTarget* SimTargetCollection::byName(const std::string& name)
 
 HInitiator* SimInitiatorCollection::find(const PInitiatorID& id)
 {
-    for (const auto& i : owned())
-        if (i->id == id)
-            return i.get();
-    return nullptr;
+    return lookup(id);
 }
 
 HDevice* SimDeviceCollection::find(const KDeviceID& id)
 {
-    for (const auto& d : owned())
-        if (d->id == id)
-            return d.get();
-    return nullptr;
+    return lookup(id);
 }
 
 HDrive* SimDriveCollection::find(const KDriveID& id)
 {
-    for (const auto& d : owned())
-        if (d->id == id)
-            return d.get();
-    return nullptr;
+    return lookup(id);
 }
 
 bool SimDriveIdList::first(KDriveID& out)
@@ -72,18 +69,12 @@ bool SimDriveIdList::next(KDriveID& out)
 
 HLun* SimLunCollection::find(const PLunID& id)
 {
-    for (const auto& l : owned())
-        if (l->id == id)
-            return l.get();
-    return nullptr;
+    return lookup(id);
 }
 
 HLunPathEntry* SimLunPathTable::find(const PLunID& id)
 {
-    for (const auto& e : owned())
-        if (e->id == id)
-            return e.get();
-    return nullptr;
+    return lookup(id);
 }
 
 } // namespace sim

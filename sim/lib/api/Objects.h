@@ -24,6 +24,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace sim {
@@ -54,12 +56,44 @@ private:
     std::vector<std::unique_ptr<Element>> owned_;
 };
 
+// The identity of an identifier as its equality sees it: tag, length, bytes.
+std::string idKey(const PUniqueID& id);
+
+// A collection whose elements are found by their identifier `id` through a
+// hash index, since a SAN may hold thousands of LUN paths.
+template <class Base, class Element>
+class IndexedCollection : public OwningCollection<Base, Element> {
+public:
+    Element* add(std::unique_ptr<Element> element)
+    {
+        Element* raw = OwningCollection<Base, Element>::add(std::move(element));
+        index_.emplace(idKey(raw->id), raw);
+        return raw;
+    }
+    void clear()
+    {
+        index_.clear();
+        OwningCollection<Base, Element>::clear();
+    }
+    Element* lookup(const PUniqueID& id) const
+    {
+        auto it = index_.find(idKey(id));
+        return it == index_.end() ? nullptr : it->second;
+    }
+
+private:
+    std::unordered_map<std::string, Element*> index_;
+};
+
 class SimLunIdList : public HLunIdList {
 public:
     uint32_t count() override { return static_cast<uint32_t>(ids.size()); }
     PLunID* at(uint32_t index) override { return index < ids.size() ? &ids[index] : nullptr; }
     void addUnique(const PLunID& id);
     std::vector<PLunID> ids;
+
+private:
+    std::unordered_set<std::string> keys_;
 };
 
 class SimTarget : public HTarget {
@@ -73,7 +107,7 @@ public:
     SimLunIdList luns;
 };
 
-class SimTargetCollection : public OwningCollection<HTargetCollection, SimTarget> {
+class SimTargetCollection : public IndexedCollection<HTargetCollection, SimTarget> {
 public:
     HTarget* find(const PTargetID& id) override;
     SimTarget* byName(const std::string& name);
@@ -86,7 +120,7 @@ public:
     KInitiatorInfo info;
 };
 
-class SimInitiatorCollection : public OwningCollection<HInitiatorCollection, SimInitiator> {
+class SimInitiatorCollection : public IndexedCollection<HInitiatorCollection, SimInitiator> {
 public:
     HInitiator* find(const PInitiatorID& id) override;
 };
@@ -98,7 +132,7 @@ public:
     KDeviceInfo info;
 };
 
-class SimDeviceCollection : public OwningCollection<HDeviceCollection, SimDevice> {
+class SimDeviceCollection : public IndexedCollection<HDeviceCollection, SimDevice> {
 public:
     HDevice* find(const KDeviceID& id) override;
 };
@@ -111,7 +145,7 @@ public:
     KDriveInfo info;
 };
 
-class SimDriveCollection : public OwningCollection<HDriveCollection, SimDrive> {
+class SimDriveCollection : public IndexedCollection<HDriveCollection, SimDrive> {
 public:
     bool contains(const KDriveID& id) override { return find(id) != nullptr; }
     HDrive* find(const KDriveID& id) override;
@@ -149,7 +183,7 @@ public:
     Refresher refresh;
 };
 
-class SimLunCollection : public OwningCollection<HLunCollection, SimLun> {
+class SimLunCollection : public IndexedCollection<HLunCollection, SimLun> {
 public:
     HLun* find(const PLunID& id) override;
 };
@@ -162,7 +196,7 @@ public:
     std::string text;
 };
 
-class SimLunPathTable : public OwningCollection<HLunPathTable, SimLunPathEntry> {
+class SimLunPathTable : public IndexedCollection<HLunPathTable, SimLunPathEntry> {
 public:
     HLunPathEntry* find(const PLunID& id) override;
 };

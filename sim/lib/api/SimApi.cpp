@@ -11,6 +11,9 @@
 #include "records/KLibraryVersionInfo.h"
 #include "records/KLunInfo.h"
 
+#include <unordered_map>
+#include <unordered_set>
+
 namespace sim {
 
 namespace {
@@ -325,31 +328,29 @@ e_MHBA_RETURN SimApi::scanAdapterGroupLuns(const std::vector<KIsaAdapterPath>& a
         return asReturn(code::StateFileError);
     }
     long long now = backend_.now();
+    std::unordered_map<std::string, size_t> groupOf;    // by WWULN, for large SANs
+    for (size_t i = 0; i < groupLuns_.items.size(); ++i)
+        groupOf.emplace(idKey(groupLuns_.items[i].wwulnLunId), i);
     for (const KIsaAdapterPath& path : adaptersInScope) {
         const Adapter* a = adapterForPath(*san, path);
         if (!a || !answers(*a, now))
             continue;
         // Adapters reached directly are better to ask than those seen through the SAN.
         auto rank = static_cast<KAdapterGroupExtendedLunInfo::PREFERRED_ADAPTER_TYPE>(a->device >= 0 ? 2 : 1);
-        std::vector<std::string> done;
+        std::unordered_set<const Lun*> done;
         for (const VisiblePath& p : visiblePaths(*san, *a)) {
-            if (std::find(done.begin(), done.end(), p.lun->wwuln) != done.end())
+            if (!done.insert(p.lun).second)
                 continue;
-            done.push_back(p.lun->wwuln);
             KWwulnLunID wwuln = wwulnId(*p.lun);
-            KAdapterGroupExtendedLunInfo* group = nullptr;
-            for (auto& g : groupLuns_.items)
-                if (g.wwulnLunId == wwuln)
-                    group = &g;
-            if (!group) {
+            auto [at, fresh] = groupOf.emplace(idKey(wwuln), groupLuns_.items.size());
+            if (fresh) {
                 groupLuns_.items.emplace_back();
-                group = &groupLuns_.items.back();
-                group->init();
-                group->wwulnLunId = wwuln;
+                groupLuns_.items.back().init();
+                groupLuns_.items.back().wwulnLunId = wwuln;
             }
             KLunInfo info;
             fillLunInfo(*san, *p.lun, *a, info);
-            group->addInfoForOneLun(a->id.value, lunId(*p.target, *p.path), info, rank);
+            groupLuns_.items[at->second].addInfoForOneLun(a->id.value, lunId(*p.target, *p.path), info, rank);
         }
     }
     return MHBA_S_OK;
