@@ -62,6 +62,13 @@ int rescanAdapters(PIpAddress& agent, bool& noneFound)
     return noneFound ? 0 : rc;
 }
 
+TokenModifierString const* readScanKeywords(TokenCmd& cmd, PIpAddress& agent, std::string& err)
+{
+    if (!readAgentAddress(cmd, agent, err))
+        return nullptr;
+    return cmd.findModifier(ModifierId::MODIFIER_ZEK, err);
+}
+
 bool readAgentAddress(TokenCmd& cmd, PIpAddress& agent, std::string& err)
 {
     bool given = false;

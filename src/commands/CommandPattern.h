@@ -39,6 +39,10 @@ int findAdapterFromKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id, AddressedA
 // replaces the library's objects, the adapter is selected and found anew.
 int rescanFromAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err);
 
+// The keywords of the commands that scan: the -agent address into `agent`,
+// and the -zek keyword, which is returned. Null when either cannot be read.
+TokenModifierString const* readScanKeywords(TokenCmd& cmd, PIpAddress& agent, std::string& err);
+
 // Forgets every earlier scan and scans this host, or the host of the agent
 // when its address is set. Finding no adapter at all is an answer, not a
 // failure: the result is then 0 with `noneFound` set.

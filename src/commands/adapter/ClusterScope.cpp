@@ -17,9 +17,9 @@ bool listed(std::vector<KClusterID> const& ids, KClusterID const& id)
     return false;
 }
 
-int readScopeKeywords(TokenCmd& cmd, ClusterScope& scope, std::string& err)
+int readScopeKeywords(TokenCmd& cmd, ClusterScope& scope, PIpAddress& agent, std::string& err)
 {
-    TokenModifierString const* const zek = cmd.findModifier(ModifierId::MODIFIER_ZEK, err);
+    TokenModifierString const* const zek = readScanKeywords(cmd, agent, err);
     if (!zek)
         return ZEKCLI_PARSE_FAIL;
     scope.zekGiven = keywordGiven(zek);
@@ -97,9 +97,7 @@ bool ClusterScope::covers(HCluster& cluster) const
 int gatherClusterScope(TokenCmd& cmd, ClusterScope& scope, std::string& err)
 {
     PIpAddress agent;
-    if (!readAgentAddress(cmd, agent, err))
-        return ZEKCLI_PARSE_FAIL;
-    if (int const rc = readScopeKeywords(cmd, scope, err))
+    if (int const rc = readScopeKeywords(cmd, scope, agent, err))
         return rc;
     if (int const rc = scanForScope(cmd, scope, agent, err))
         return rc;

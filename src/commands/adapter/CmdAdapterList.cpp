@@ -45,9 +45,7 @@ CmdAdapterList::CmdAdapterList()
 int CmdAdapterList::execCommand(std::string& err)
 {
     PIpAddress agent;
-    if (!readAgentAddress(*this, agent, err))
-        return ZEKCLI_PARSE_FAIL;
-    TokenModifierString const* const zek = findModifier(ModifierId::MODIFIER_ZEK, err);
+    TokenModifierString const* const zek = readScanKeywords(*this, agent, err);
     if (!zek)
         return ZEKCLI_PARSE_FAIL;
 

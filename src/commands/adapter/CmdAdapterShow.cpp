@@ -96,9 +96,7 @@ CmdAdapterShow::CmdAdapterShow()
 int CmdAdapterShow::execCommand(std::string& err)
 {
     PIpAddress agent;
-    if (!readAgentAddress(*this, agent, err))
-        return ZEKCLI_PARSE_FAIL;
-    TokenModifierString const* const zek = findModifier(ModifierId::MODIFIER_ZEK, err);
+    TokenModifierString const* const zek = readScanKeywords(*this, agent, err);
     if (!zek)
         return ZEKCLI_PARSE_FAIL;
 

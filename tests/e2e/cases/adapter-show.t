@@ -102,3 +102,14 @@ A host without any adapter says so, and that is not a failure:
       *** No ZEK found ***
   
   
+
+An adapter reached through a remote agent carries the agent's address in
+both of its names:
+
+  $ hbasim reset >/dev/null
+  $ hostcli -zek show adapter -zek=0 -agent=127.0.10.1 | head -5
+  
+      -zek=0 -agent=127.0.10.1
+      -zek=2000001B32B20100 -agent=127.0.10.1
+          Adapter ID          = 2000001B32B20100, (Device 0 on remote host 127.0.10.1)
+          Cluster Key         = 
