@@ -139,67 +139,84 @@ void SimAdapter::clearLuns()
     nameIndex_.clear();
 }
 
+void SimAdapter::discoverOnce()
+{
+    if (discovered_)
+        return;
+    discovered_ = true;
+    const San* san = backend_.view();
+    const Adapter* a = san ? findAdapter(*san, id_) : nullptr;
+    if (a && adapterAnswers(*a, backend_.now()))
+        gatherFabric(*san, *a);
+}
+
 e_MHBA_RETURN SimAdapter::getTargetsAndInitiators(MHbaReturnBuffer* firstError)
 {
+    discovered_ = true;
     return asReturn(withAdapter("getTargetsAndInitiators", [&](const San& san, const Adapter& a) {
-        for (const Target& t : san.targets) {
-            if (discoveryPorts(san, a, t).empty())
-                continue;
-            SimTarget* held = targets_.byName(t.name);
-            if (!held) {
-                auto fresh = std::make_unique<SimTarget>();
-                fresh->name = t.name;
-                fresh->id = targetId(t);
-                held = targets_.add(std::move(fresh));
-            }
-            fillTargetInfo(san, t, a, held->info);
-            KDeviceID device;
-            if (t.protocol == 2)
-                device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(t.iscsiName.c_str()));
-            else
-                device.initFcDeviceID(held->id.getData() + 4, 8);
-            if (!devices_.find(device)) {
-                auto d = std::make_unique<SimDevice>();
-                d->id = device;
-                d->info.init();
-                d->info.isTarget = true;
-                d->info.isInternal = t.internal;
-                d->info.target = held->info;
-                devices_.add(std::move(d));
-            }
-        }
-        for (const Initiator& i : san.initiators) {
-            bool seen = i.seenBy.empty();
-            for (const AdapterId& id : i.seenBy)
-                seen = seen || id == a.id;
-            if (!seen)
-                continue;
-            PInitiatorID pid;
-            KDeviceID device;
-            if (i.protocol == 2) {
-                pid.initIscsiInitiatorID(reinterpret_cast<const unsigned char*>(i.iscsiName.c_str()));
-                device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(i.iscsiName.c_str()));
-            } else {
-                pid.initFcInitiatorIDFromString(i.wwpn);
-                device.initFcDeviceIDFromString(i.wwpn);
-            }
-            if (!initiators_.find(pid)) {
-                auto held = std::make_unique<SimInitiator>();
-                held->id = pid;
-                fillInitiatorInfo(i, held->info);
-                initiators_.add(std::move(held));
-            }
-            if (!devices_.find(device)) {
-                auto d = std::make_unique<SimDevice>();
-                d->id = device;
-                d->info.init();
-                d->info.isInitiator = true;
-                fillInitiatorInfo(i, d->info.initiator);
-                devices_.add(std::move(d));
-            }
-        }
-        return code::Ok;
+        return gatherFabric(san, a);
     }, firstError));
+}
+
+int SimAdapter::gatherFabric(const San& san, const Adapter& a)
+{
+    for (const Target& t : san.targets) {
+        if (discoveryPorts(san, a, t).empty())
+            continue;
+        SimTarget* held = targets_.byName(t.name);
+        if (!held) {
+            auto fresh = std::make_unique<SimTarget>();
+            fresh->name = t.name;
+            fresh->id = targetId(t);
+            held = targets_.add(std::move(fresh));
+        }
+        fillTargetInfo(san, t, a, held->info);
+        KDeviceID device;
+        if (t.protocol == 2)
+            device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(t.iscsiName.c_str()));
+        else
+            device.initFcDeviceID(held->id.getData() + 4, 8);
+        if (!devices_.find(device)) {
+            auto d = std::make_unique<SimDevice>();
+            d->id = device;
+            d->info.init();
+            d->info.isTarget = true;
+            d->info.isInternal = t.internal;
+            d->info.target = held->info;
+            devices_.add(std::move(d));
+        }
+    }
+    for (const Initiator& i : san.initiators) {
+        bool seen = i.seenBy.empty();
+        for (const AdapterId& id : i.seenBy)
+            seen = seen || id == a.id;
+        if (!seen)
+            continue;
+        PInitiatorID pid;
+        KDeviceID device;
+        if (i.protocol == 2) {
+            pid.initIscsiInitiatorID(reinterpret_cast<const unsigned char*>(i.iscsiName.c_str()));
+            device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(i.iscsiName.c_str()));
+        } else {
+            pid.initFcInitiatorIDFromString(i.wwpn);
+            device.initFcDeviceIDFromString(i.wwpn);
+        }
+        if (!initiators_.find(pid)) {
+            auto held = std::make_unique<SimInitiator>();
+            held->id = pid;
+            fillInitiatorInfo(i, held->info);
+            initiators_.add(std::move(held));
+        }
+        if (!devices_.find(device)) {
+            auto d = std::make_unique<SimDevice>();
+            d->id = device;
+            d->info.init();
+            d->info.isInitiator = true;
+            fillInitiatorInfo(i, d->info.initiator);
+            devices_.add(std::move(d));
+        }
+    }
+    return code::Ok;
 }
 
 void SimAdapter::fillLun(SimLun& lun, const San& san, const Adapter& a, const VisiblePath& p)

@@ -53,16 +53,16 @@ public:
     KIsaAdapterPath* getAdapterPath() override { return &path_; }
     KIsaAdapterInfo* getCachedAdapterInfo() override { return &info_; }
     KClusterID* getClusterId() override { return &cluster_; }
-    HInitiatorCollection* getInitiators() override { return &initiators_; }
-    void clearInitiators() override { initiators_.clear(); }
-    HTargetCollection* getTargets() override { return &targets_; }
+    HInitiatorCollection* getInitiators() override { return discoverOnce(), &initiators_; }
+    void clearInitiators() override { discovered_ = true, initiators_.clear(); }
+    HTargetCollection* getTargets() override { return discoverOnce(), &targets_; }
     e_MHBA_RETURN setTargetMaxOutstandingIo(const PTargetID& target, uint32_t count) override;
-    void clearTargets() override { targets_.clear(); }
+    void clearTargets() override { discovered_ = true, targets_.clear(); }
     HDriveCollection* getDrives() override { return &drives_; }
     void clearDrives() override;
     HDrivePoolCollection* getDrivePools() override { return &pools_; }
-    HDeviceCollection* getDevices() override { return &devices_; }
-    void clearDevices() override { devices_.clear(); }
+    HDeviceCollection* getDevices() override { return discoverOnce(), &devices_; }
+    void clearDevices() override { discovered_ = true, devices_.clear(); }
     HLunCollection* getLuns() override { return &luns_; }
     void clearLuns() override;
     HLunNameIndex* getLunNameIndex() override { return &nameIndex_; }
@@ -160,6 +160,10 @@ private:
     e_MHBA_RETURN refreshLun(SimLun& lun);
     int gatherLunsOf(const San& san, const Adapter& a, SimTarget& target);
     std::string capture(const San& san, const Adapter& a) const;
+    // The adapter reports what it sees on the fabric when it is first asked,
+    // as a library that found it would have gathered that already.
+    void discoverOnce();
+    int gatherFabric(const San& san, const Adapter& a);
 
     Backend& backend_;
     u64 id_;
@@ -175,6 +179,7 @@ private:
     SimLunPathTable pathTable_;
     SimLunNameIndex nameIndex_;
     std::unique_ptr<SimLogView> logView_;
+    bool discovered_ = false;
 };
 
 inline e_MHBA_RETURN asReturn(int code) { return static_cast<e_MHBA_RETURN>(code); }

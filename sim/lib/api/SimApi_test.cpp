@@ -512,3 +512,14 @@ TEST_F(SimApiTest, CreatedLunsHaveAWwulnOfTheirAdapter)
     KWwulnLunID again;
     EXPECT_EQ(adapter(1)->createLun(10ull << 30, "", 1, kDev0, again), MHBA_E_NOT_SUPPORTED);
 }
+
+TEST_F(SimApiTest, WhatTheAdapterSeesIsThereWhenFirstAskedFor)
+{
+    HIsaAdapter* dev1 = adapter(1);
+    PTargetID b;
+    b.initFcTargetIDFromString(kArrayB);
+    EXPECT_NE(dev1->getTargets()->find(b), nullptr);
+    EXPECT_FALSE(dev1->getDevices()->items.empty());
+    dev1->clearTargets();
+    EXPECT_TRUE(dev1->getTargets()->items.empty()) << "after a clear only a gathering fills it again";
+}
