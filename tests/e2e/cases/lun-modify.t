@@ -88,3 +88,19 @@ change.
   
   Successfully modified LUN  5006-0160-3BE0-1234 -lun_number=40
   
+
+The owner can mirror its data LUN on another adapter and take the mirror
+away again; show lun tells the mirror state and the Mirror state bit.
+
+  $ L="-lun_number=40 -fc_target=5006-0160-3BE0-1234"
+  $ hostcli -zek modify lun -zek=1 $L -mirror=0
+  [ Device 1 on local host ]
+  
+  Successfully modified LUN  5006-0160-3BE0-1234 -lun_number=40
+  
+  $ hostcli -zek show lun -zek=1 $L | sed -n '7,8p'
+  Primary Mirror
+      LUN State  = 0x444801 ( Online, Mapped, Local, Storage Media SSD, Mirror)
+  $ hostcli -zek modify lun -zek=1 $L -remove_mirror > /dev/null
+  $ hostcli -zek show lun -zek=1 $L | sed -n '7p'
+      LUN State  = 0x44801 ( Online, Mapped, Local, Storage Media SSD)
