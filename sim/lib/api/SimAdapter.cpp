@@ -146,8 +146,10 @@ void SimAdapter::discoverOnce()
     discovered_ = true;
     const San* san = backend_.view();
     const Adapter* a = san ? findAdapter(*san, id_) : nullptr;
-    if (a && adapterAnswers(*a, backend_.now()))
-        gatherFabric(*san, *a);
+    if (!a || !adapterAnswers(*a, backend_.now()) || gatherFabric(*san, *a) != code::Ok)
+        return;
+    for (HTarget* t : targets_.items)
+        gatherLunsOf(*san, *a, *static_cast<SimTarget*>(t));
 }
 
 e_MHBA_RETURN SimAdapter::getTargetsAndInitiators(MHbaReturnBuffer* firstError)
@@ -798,6 +800,8 @@ e_MHBA_RETURN SimAdapter::getCacheFlushProgress(const PLunID& lun, uint32_t* inP
     }, true);
     if (inProgress)
         *inProgress = rc == code::Ok && running ? 1 : 0;
+    // No progress message here: the command line shows a dot per poll, and a
+    // percentage from us would break its line.
     return asReturn(rc);
 }
 

@@ -231,6 +231,8 @@ e_MHBA_RETURN SimApi::checkAdapterPath(KIsaAdapterPath& path)
     const Adapter* a = adapterForPath(*san, path);
     if (!a)
         return MHBA_E_OBJECT_NOT_FOUND;
+    if (a->state != 1)
+        return asReturn(code::AdapterNotResponding);
     localsPresented_ = true;
     path = *hold(*san, *a)->getAdapterPath();
     return MHBA_S_OK;

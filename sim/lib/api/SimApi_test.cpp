@@ -136,10 +136,13 @@ TEST_F(SimApiTest, CheckAdapterPathCompletesOpenFields)
     EXPECT_NE(api->getAdapters()->find(byId), nullptr);
     KIsaAdapterPath missing = devicePath(7);
     EXPECT_EQ(api->checkAdapterPath(missing), MHBA_E_OBJECT_NOT_FOUND);
-    // An offline adapter is known: its description says it is offline, and
-    // it answers nothing else.
+    // An offline adapter cannot be reached; a scan still knows it, its
+    // description says it is offline, and it answers nothing else.
     KIsaAdapterPath offline = sanPath(kOffline);
-    ASSERT_EQ(api->checkAdapterPath(offline), MHBA_S_OK);
+    EXPECT_EQ(api->checkAdapterPath(offline), 1006);
+    PIpAddress local;
+    uint32_t count;
+    ASSERT_EQ(api->scanAdapters(local, &count), MHBA_S_OK);
     HIsaAdapter* down = api->getAdapters()->find(offline);
     ASSERT_NE(down, nullptr);
     KIsaAdapterInfo info;
@@ -520,6 +523,7 @@ TEST_F(SimApiTest, WhatTheAdapterSeesIsThereWhenFirstAskedFor)
     b.initFcTargetIDFromString(kArrayB);
     EXPECT_NE(dev1->getTargets()->find(b), nullptr);
     EXPECT_FALSE(dev1->getDevices()->items.empty());
+    EXPECT_NE(dev1->getLuns()->find(lunIdOn(kArrayB, 2)), nullptr);
     dev1->clearTargets();
     EXPECT_TRUE(dev1->getTargets()->items.empty()) << "after a clear only a gathering fills it again";
 }

@@ -17,8 +17,10 @@ A fault given once answers once; the next request goes through.
   Faults:
     none
 
-An adapter taken offline describes itself so.
+An adapter taken offline cannot be addressed, and scans list it as offline.
 
   $ hbasim offline adapter zek-dr-site
-  $ hostcli -zek show adapter -zek=zek-dr-site | grep -c 'OFFLINE'
-  1
+  $ hostcli -zek show adapter -zek=zek-dr-site | grep -o 'The adapter does not respond (it is offline or restarting)'
+  The adapter does not respond (it is offline or restarting)
+  $ hostcli -zek list cluster | grep 2000001B32A10E00
+      -zek=2000001B32A10E00      <Offline>
