@@ -4,6 +4,7 @@
 #define JSON_DIAGNOSTICS 1
 #include <nlohmann/json.hpp>
 
+#include <arpa/inet.h>
 #include <cinttypes>
 #include <cstdio>
 #include <set>
@@ -218,14 +219,32 @@ bool fail(std::string& error, const std::string& text)
     return false;
 }
 
+// Agents are found by the numeric text of their address, so a scenario must
+// write it the way the address reads back.
+bool checkAgentAddress(const std::string& agent, std::string& error)
+{
+    unsigned char bytes[16];
+    char canonical[INET6_ADDRSTRLEN] = "";
+    int family = agent.find(':') == std::string::npos ? AF_INET : AF_INET6;
+    if (inet_pton(family, agent.c_str(), bytes) != 1)
+        return fail(error, "host agent \"" + agent + "\" is not a numeric IPv4 or IPv6 address");
+    inet_ntop(family, bytes, canonical, sizeof canonical);
+    if (agent != canonical)
+        return fail(error, "host agent \"" + agent + "\" must be written \"" + canonical + "\"");
+    return true;
+}
+
 bool validateAdapters(const San& san, std::string& error)
 {
     std::set<u64> ids;
     std::set<std::pair<std::string, int>> devices;
     std::set<std::string> hosts;
-    for (const Host& h : san.hosts)
+    for (const Host& h : san.hosts) {
         if (!hosts.insert(h.agent).second)
             return fail(error, "host \"" + h.agent + "\" is defined twice");
+        if (!h.agent.empty() && !checkAgentAddress(h.agent, error))
+            return false;
+    }
     for (const Adapter& a : san.adapters) {
         std::string name = "adapter " + adapterIdText(a.id.value);
         if (!ids.insert(a.id.value).second)

@@ -89,3 +89,17 @@ TEST(ScenarioTest, AdapterIdsAreHexText)
     EXPECT_FALSE(parseAdapterId("12345678901234567", id));
     EXPECT_EQ(adapterIdText(0x2000001B32A10C00ull), "2000001B32A10C00");
 }
+
+TEST(ScenarioTest, AgentAddressesAreNumericAndCanonical)
+{
+    San san = defaultSan();
+    std::string error;
+    san.hosts[1].agent = "agent.example";
+    EXPECT_FALSE(validateSan(san, error));
+    EXPECT_EQ(error, "host agent \"agent.example\" is not a numeric IPv4 or IPv6 address");
+    san.hosts[1].agent = "127.000.010.001";
+    EXPECT_FALSE(validateSan(san, error));
+    san.hosts[1].agent = "0:0::1";
+    EXPECT_FALSE(validateSan(san, error));
+    EXPECT_EQ(error, "host agent \"0:0::1\" must be written \"::1\"");
+}
