@@ -335,36 +335,32 @@ e_MHBA_RETURN SimAdapter::getDrivesWithErrorDetails(MHbaReturnBuffer* firstError
     }, firstError));
 }
 
+int SimAdapter::changePool(const char* operation, const KUniqueID& drive, bool add)
+{
+    std::string name = driveName(drive);
+    return apply(operation, [&](San& s, long long now) {
+        return add ? rules::addDriveToPool(s, id_, name, now) : rules::removeDriveFromPool(s, id_, name, now);
+    });
+}
+
 e_MHBA_RETURN SimAdapter::addDriveToPoolBySsdId(const KWwulnLunID& ssdId)
 {
-    std::string name = driveName(ssdId);
-    return asReturn(apply("addDriveToPoolBySsdId", [&](San& s, long long now) {
-        return rules::addDriveToPool(s, id_, name, now);
-    }));
+    return asReturn(changePool("addDriveToPoolBySsdId", ssdId, true));
 }
 
 e_MHBA_RETURN SimAdapter::addDriveToPool(const KDriveID& drive)
 {
-    std::string name = driveName(drive);
-    return asReturn(apply("addDriveToPool", [&](San& s, long long now) {
-        return rules::addDriveToPool(s, id_, name, now);
-    }));
+    return asReturn(changePool("addDriveToPool", drive, true));
 }
 
 e_MHBA_RETURN SimAdapter::removeDriveFromPool(const KDriveID& drive)
 {
-    std::string name = driveName(drive);
-    return asReturn(apply("removeDriveFromPool", [&](San& s, long long now) {
-        return rules::removeDriveFromPool(s, id_, name, now);
-    }));
+    return asReturn(changePool("removeDriveFromPool", drive, false));
 }
 
 e_MHBA_RETURN SimAdapter::removeDriveFromPoolBySsdId(const KWwulnLunID& ssdId)
 {
-    std::string name = driveName(ssdId);
-    return asReturn(apply("removeDriveFromPoolBySsdId", [&](San& s, long long now) {
-        return rules::removeDriveFromPool(s, id_, name, now);
-    }));
+    return asReturn(changePool("removeDriveFromPoolBySsdId", ssdId, false));
 }
 
 e_MHBA_RETURN SimAdapter::getSmartDriveInfo(const KDriveID& drive)

@@ -156,6 +156,7 @@ private:
     int applyToLun(const char* operation, const PLunID& lun, const LunRule& rule, bool keepAlways = false);
     int applyToWwuln(const char* operation, const KWwulnLunID& id, bool viaPrimary);
     int writeFile(const std::string& file, const std::string& text);
+    int changePool(const char* operation, const KUniqueID& drive, bool add);
     void fillLun(SimLun& lun, const San& san, const Adapter& a, const VisiblePath& p);
     e_MHBA_RETURN refreshLun(SimLun& lun);
     int gatherLunsOf(const San& san, const Adapter& a, SimTarget& target);

@@ -257,19 +257,18 @@ int checkLocalMirror(San& san, u64 adapter, int mirrorType, u64 mirrorAdapter, l
     return hasCapability(*findAdapter(san, mirrorAdapter), "LOCAL_SSD_DATA_LUN") ? code::Ok : code::NotSupported;
 }
 
-Cluster* primaryCluster(San& san, u64 adapter, const std::string& id, int& rc)
+// Runs `change` on the cluster when the adapter answers and is its primary.
+template <class Change>
+int onPrimaryCluster(San& san, u64 adapter, const std::string& id, long long now, Change&& change)
 {
-    Cluster* c = findCluster(san, id);
-    if (!c) {
-        rc = code::ObjectNotFound;
-        return nullptr;
-    }
-    if (c->primary.value != adapter) {
-        rc = code::NotClusterPrimary;
-        return nullptr;
-    }
-    rc = code::Ok;
-    return c;
+    return onAdapter(san, adapter, now, [&](Adapter&) {
+        Cluster* c = findCluster(san, id);
+        if (!c)
+            return code::ObjectNotFound;
+        if (c->primary.value != adapter)
+            return code::NotClusterPrimary;
+        return change(*c);
+    });
 }
 
 } // namespace
@@ -629,23 +628,15 @@ int createCluster(San& san, u64 adapter, u64 primary, u64 secondary, const std::
 
 int destroyCluster(San& san, u64 adapter, const std::string& id, long long now)
 {
-    return onAdapter(san, adapter, now, [&](Adapter&) {
-        int rc;
-        Cluster* c = primaryCluster(san, adapter, id, rc);
-        if (!c)
-            return rc;
-        san.clusters.erase(san.clusters.begin() + (c - san.clusters.data()));
+    return onPrimaryCluster(san, adapter, id, now, [&](Cluster& c) {
+        san.clusters.erase(san.clusters.begin() + (&c - san.clusters.data()));
         return code::Ok;
     });
 }
 
 int addClusterMember(San& san, u64 adapter, u64 member, const std::string& id, long long now)
 {
-    return onAdapter(san, adapter, now, [&](Adapter&) {
-        int rc;
-        Cluster* c = primaryCluster(san, adapter, id, rc);
-        if (!c)
-            return rc;
+    return onPrimaryCluster(san, adapter, id, now, [&](Cluster& c) {
         Adapter* m = findAdapter(san, member);
         if (!m)
             return code::AdapterNotFound;
@@ -653,24 +644,20 @@ int addClusterMember(San& san, u64 adapter, u64 member, const std::string& id, l
             return code::AdapterNotResponding;
         if (clusterOf(san, member))
             return code::AlreadyClusterMember;
-        c->members.push_back(m->id);
+        c.members.push_back(m->id);
         return code::Ok;
     });
 }
 
 int removeClusterMember(San& san, u64 adapter, u64 member, const std::string& id, long long now)
 {
-    return onAdapter(san, adapter, now, [&](Adapter&) {
-        int rc;
-        Cluster* c = primaryCluster(san, adapter, id, rc);
-        if (!c)
-            return rc;
-        auto it = std::find(c->members.begin(), c->members.end(), AdapterId{member});
-        if (it == c->members.end())
+    return onPrimaryCluster(san, adapter, id, now, [&](Cluster& c) {
+        auto it = std::find(c.members.begin(), c.members.end(), AdapterId{member});
+        if (it == c.members.end())
             return code::ObjectNotFound;
-        if (member == c->primary.value || member == c->secondary.value)
+        if (member == c.primary.value || member == c.secondary.value)
             return code::InvalidArgument;   // the roles leave with the cluster
-        c->members.erase(it);
+        c.members.erase(it);
         return code::Ok;
     });
 }
