@@ -1,12 +1,12 @@
 #include "commands/adapter/CmdAdapterRestart.h"
 
-#include <cstdio>
 #include <unistd.h>
 
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
+#include "commands/adapter/RestartWait.h"
 #include "core/Parser.h"
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterInfo.h"
@@ -18,30 +18,6 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     endRow(),
 };
 
-// The adapter is silent for a while after the request; the first question
-// comes only after it has had time to go down.
-constexpr unsigned int kSecondsBeforeFirstPoll = 10;
-constexpr unsigned int kSecondsBetweenPolls = 3;
-constexpr int kMaxPolls = 50;
-
-// Polls until the adapter answers again; false when it stayed silent.
-bool waitUntilAdapterAnswers(HIsaAdapter& adapter)
-{
-    printf("ZEK is restarting...");
-    fflush(stdout);
-    sleep(kSecondsBeforeFirstPoll);
-    KIsaAdapterInfo info;
-    for (int polls = 0;;) {
-        e_MHBA_RETURN const rc = adapter.getAdapterInfo(info);
-        printf(".");
-        fflush(stdout);
-        sleep(kSecondsBetweenPolls);
-        if (++polls > kMaxPolls)
-            return false;
-        if (rc == MHBA_S_OK)
-            return true;
-    }
-}
 
 } // namespace
 
@@ -65,7 +41,11 @@ int CmdAdapterRestart::execCommand(std::string& err)
     if (!displayIpAddress(target.adapter, err))
         return ZEKCLI_OUTPUT_FAIL;
 
-    if (!waitUntilAdapterAnswers(*target.adapter)) {
+    RestartWait wait;
+    KIsaAdapterInfo info;
+    wait.poll = [&] { return target.adapter->getAdapterInfo(info); };
+    wait.pause = [](unsigned int seconds) { sleep(seconds); };
+    if (!waitUntilAdapterAnswers(wait)) {
         outError("\n\n*** " + Parser::zekcliReturnToText(ZEKCLI_TIMEOUT) + "-- " + " Adapter restarts timeout.\n");
         return 0;
     }
