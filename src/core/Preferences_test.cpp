@@ -1,5 +1,7 @@
 #include <cstring>
 #include <gtest/gtest.h>
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "core/CoreTestTree_test.h"
@@ -276,18 +278,24 @@ TEST_F(PreferencesFile, SaveWritesAPrivateFileThatTheNextRunReads)
     EXPECT_EQ("-quiet", second.root.getAppendSet("mine", err));
 }
 
+// A write cut short by a file size limit must leave the old preferences
+// and no temporary file behind.
 TEST_F(PreferencesFile, FailedSaveKeepsTheOldFile)
 {
     std::string const path = dir.file("zekcli.ini");
     { std::ofstream(path) << "old"; }
-    chmod(dir.path.c_str(), 0500);
-    Parser p;
-    p.init();
-    p.save();
-    chmod(dir.path.c_str(), 0700);
-    if (getuid() != 0)
-        EXPECT_EQ("old", readWholeFile(path));
-    EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(dir.path), {}));
+    auto const saveWithTooSmallLimit = [&] {
+        signal(SIGXFSZ, SIG_IGN);
+        struct rlimit const limit = {1000, 1000};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        Parser p;
+        p.init();
+        p.save();
+        bool const kept = readWholeFile(path) == "old";
+        bool const alone = std::distance(std::filesystem::directory_iterator(dir.path), {}) == 1;
+        std::exit(kept && alone ? 0 : 1);
+    };
+    EXPECT_EXIT(saveWithTooSmallLimit(), ::testing::ExitedWithCode(0), "");
 }
 
 TEST_F(PreferencesFile, MissingHomeDirectoryIsNoFailure)
