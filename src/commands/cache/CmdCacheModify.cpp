@@ -21,8 +21,9 @@ CmdCacheModify::CmdCacheModify()
 {
     declareCommand(*this, rows);
     helpTitle = "Modify Cache";
-    helpDescription = "Changes the cache settings of a LUN that is already cached. Settings that are not given keep their "
-        "present values; an existing mirror stays.";
+    helpDescription = "Changes the cache settings of a LUN that is already cached. The mode and the read and write sizes "
+        "that are not given keep their present values; the profile returns to default and the cache limit is lifted "
+        "unless they are given; an existing mirror stays.";
     helpSyntax = "\t[-mode=<cache mode>]\n" + cacheSettingsSyntax() + "\n" + lunSelectorSyntax() + "\n"
         "\t[-use_default]\n"
         "\t[-mirror=<adapter>]\n" + adapterSyntax();
