@@ -91,3 +91,18 @@ nothing is touched.
   $ hostcli -zek disable cache -zek=0 -clusterid=12345678901234567 -lun_wwuln=60060160A1B2C3D4E5F6000000000001
   \r             \r*** ZEKCLI_PARSE_FAIL -- Maximum cluster ID size is 16 bytes (esc)
   [52]
+
+A cluster whose primary is reached only through the SAN: the request still
+goes to that primary, which releases the LUN it caches.
+
+  $ hbasim reset $TESTDIR/scenarios/cache-san-primary.json >/dev/null
+  $ hostcli -zek disable cache -zek=0 -lun_wwuln=600A0B80002A1C3D00000000D0D0D001 >/dev/null
+  [185]
+  $ hostcli -zek disable cache -zek=0 -clusterid=corecluster -lun_wwuln=600A0B80002A1C3D00000000D0D0D001
+  [ Device 0 on local host ]
+  
+  Successfully disabled caching for LUN   -is_target=2100-0024-FF3C-8800 -lun_number=1
+  
+  $ hbasim show | grep -c "cached read"
+  0
+  [1]
