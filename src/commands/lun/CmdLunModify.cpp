@@ -76,11 +76,11 @@ int CmdLunModify::execCommand(std::string& err)
         err.clear();
         return MHBA_E_OBJECT_NOT_FOUND;
     }
-    if (!held->getLunInfo()->isLunInfoValid())
-        if (int const rc = held->refreshLunInfo()) {
-            err.clear();
-            return rc;
-        }
+    int const refreshed = held->getLunInfo()->isLunInfoValid() ? 0 : held->refreshLunInfo();
+    if (refreshed != 0) {
+        err.clear();
+        return refreshed;
+    }
     KLunInfo const info = *held->getLunInfo();
     if (belongsToAnotherAdapter(info)) {
         err.clear();

@@ -46,9 +46,26 @@ HIsaAdapter* gathered(SimulatedSan const& san, std::string const& target)
     EXPECT_EQ(0, adapter->getTargetsAndInitiators(&firstFailure));
     HTarget* const seen = adapter->getTargets()->find(fcTarget(target));
     EXPECT_NE(nullptr, seen);
-    if (seen)
+    if (seen) {
         EXPECT_EQ(0, adapter->getLunsForSpecificTarget(seen, &firstFailure));
+    }
     return adapter;
+}
+
+// What showOneLun gives for one LUN path.
+struct Shown {
+    int code;
+    std::string text;
+    std::vector<KLunInfo> infos;
+    std::string err;
+};
+
+Shown showOne(HIsaAdapter* adapter, PLunID const& lun)
+{
+    CmdLunShow command;
+    Shown shown{0, "", {}, ""};
+    shown.code = command.showOneLun(adapter, lun, shown.text, shown.infos, shown.err);
+    return shown;
 }
 
 } // namespace
@@ -95,15 +112,12 @@ TEST(CmdLunShow, ALunTheAdapterDoesNotHoldIsNotFound)
     ASSERT_TRUE(san.loaded);
     HIsaAdapter* const adapter = gathered(san, kT1);
     ASSERT_NE(nullptr, adapter);
-    CmdLunShow command;
     PLunID const missing = lunOn(kT1, 42);
-    std::string text;
-    std::vector<KLunInfo> infos;
-    std::string err;
-    EXPECT_EQ(1206, command.showOneLun(adapter, missing, text, infos, err));
-    EXPECT_EQ("LUN \"" + missing.displayText() + "\" not found", err);
-    EXPECT_EQ("", text);
-    EXPECT_TRUE(infos.empty());
+    Shown const shown = showOne(adapter, missing);
+    EXPECT_EQ(1206, shown.code);
+    EXPECT_EQ("LUN \"" + missing.displayText() + "\" not found", shown.err);
+    EXPECT_EQ("", shown.text);
+    EXPECT_TRUE(shown.infos.empty());
 }
 
 TEST(CmdLunShow, ARecordThatCannotBeReadIsShownAsSuchAndStillGiven)
@@ -117,17 +131,14 @@ TEST(CmdLunShow, ARecordThatCannotBeReadIsShownAsSuchAndStillGiven)
     ASSERT_NE(nullptr, held);
     held->getLunInfo()->bValid = false;
 
-    CmdLunShow command;
-    std::string text;
-    std::vector<KLunInfo> infos;
-    std::string err;
-    EXPECT_EQ(0, command.showOneLun(adapter, lun, text, infos, err));
+    Shown const shown = showOne(adapter, lun);
+    EXPECT_EQ(0, shown.code);
     EXPECT_EQ("-lun_number=5 -fc_target=" + kT1 + "  (" + g_pHbaMgmtApi->returnCodeToText(1000) + ")\n"
               "    ****** LUN info not available ******\n"
               "\n",
-              text);
-    ASSERT_EQ(1u, infos.size());
-    EXPECT_FALSE(infos[0].isLunInfoValid());
+              shown.text);
+    ASSERT_EQ(1u, shown.infos.size());
+    EXPECT_FALSE(shown.infos[0].isLunInfoValid());
 }
 
 TEST(CmdLunShow, AReadableSanLunShowsItsNamesAndPlace)
@@ -136,11 +147,9 @@ TEST(CmdLunShow, AReadableSanLunShowsItsNamesAndPlace)
     ASSERT_TRUE(san.loaded);
     HIsaAdapter* const adapter = gathered(san, kT1);
     ASSERT_NE(nullptr, adapter);
-    CmdLunShow command;
-    std::string text;
-    std::vector<KLunInfo> infos;
-    std::string err;
-    EXPECT_EQ(0, command.showOneLun(adapter, lunOn(kT1, 5), text, infos, err));
+    Shown const shown = showOne(adapter, lunOn(kT1, 5));
+    EXPECT_EQ(0, shown.code);
+    std::string const& text = shown.text;
     std::string const head = "-lun_number=5 -fc_target=" + kT1 + "\n"
                              "-lun_wwuln=600A-0B80-0000-0000-0000-0000-0000-0A05\n"
                              "-lun_serial=\"SERIAL-A05\"\n"
@@ -149,6 +158,6 @@ TEST(CmdLunShow, AReadableSanLunShowsItsNamesAndPlace)
     EXPECT_EQ(head, text.substr(0, head.size()));
     EXPECT_NE(std::string::npos, text.find("    (LUN is not cached)\n"));
     EXPECT_EQ("\n\n", text.substr(text.size() - 2));
-    ASSERT_EQ(1u, infos.size());
-    EXPECT_TRUE(infos[0].isLunInfoValid());
+    ASSERT_EQ(1u, shown.infos.size());
+    EXPECT_TRUE(shown.infos[0].isLunInfoValid());
 }
