@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,6 +21,18 @@ namespace {
 
 constexpr char const* kPreferencesFileName = "zekcli.ini";
 constexpr int32_t kFileHeader[4] = {2, 103, 6, 4};
+// Every command reads the whole file and most rewrite it; one buffer larger
+// than the file makes each of those a single system call, not one per 4 KB.
+constexpr size_t kFileBufferSize = 64 * 1024;
+
+// glibc takes the size only together with a buffer of the caller's, which
+// must then outlive the stream.
+std::unique_ptr<char[]> useLargeBuffer(FILE* file)
+{
+    auto buffer = std::make_unique_for_overwrite<char[]>(kFileBufferSize);
+    setvbuf(file, buffer.get(), _IOFBF, kFileBufferSize);
+    return buffer;
+}
 
 // A token record: a fixed header, then the value bytes, then the name bytes.
 constexpr size_t kRecordHeaderSize = 108;
@@ -273,7 +286,9 @@ std::string Parser::getHomeDirectory() { return hbaMgmt_getHomeDirectory(); }
 void Parser::init()
 {
     FILE* file = fopen(preferencesPath().c_str(), "rb");
+    std::unique_ptr<char[]> buffer;
     if (file) {
+        buffer = useLargeBuffer(file);
         int32_t header[4];
         for (int32_t& value : header)
             if (!readInt32s(file, &value, 1))
@@ -302,6 +317,7 @@ void Parser::save()
         unlink(temporary.c_str());
         return;
     }
+    std::unique_ptr<char[]> const buffer = useLargeBuffer(file);
     bool const written = writeBytes(file, kFileHeader, sizeof kFileHeader) && root.saveToPrefFile(file);
     bool const closed = fclose(file) == 0;
     if (!written || !closed || rename(temporary.c_str(), path.c_str()) != 0)
