@@ -141,23 +141,35 @@ std::string scenarioToText(const San& san)
 namespace {
 
 // A misspelt field would otherwise be dropped without a word; compare what
-// was read with what it reads back as, and name the first stray key.
-bool findUnknownKey(const nlohmann::json& given, const nlohmann::json& known, const std::string& where,
+// was read with what it reads back as, and name the first stray key. Every
+// command reads the state, so the walk builds no text unless it reports:
+// `path` grows and shrinks in place, and leaves are not visited.
+bool findUnknownKey(const nlohmann::json& given, const nlohmann::json& known, std::string& path,
                     std::string& error)
 {
+    auto visit = [&](const nlohmann::json& g, const nlohmann::json& k, const std::string& step) {
+        if (!g.is_structured() || !k.is_structured())
+            return false;
+        size_t const mark = path.size();
+        path += "/";
+        path += step;
+        bool const found = findUnknownKey(g, k, path, error);
+        path.resize(mark);
+        return found;
+    };
     if (given.is_object() && known.is_object()) {
         for (auto it = given.begin(); it != given.end(); ++it) {
-            std::string path = where + "/" + it.key();
-            if (!known.contains(it.key())) {
-                error = "unknown field \"" + path + "\"";
+            auto match = known.find(it.key());
+            if (match == known.end()) {
+                error = "unknown field \"" + path + "/" + it.key() + "\"";
                 return true;
             }
-            if (findUnknownKey(it.value(), known.at(it.key()), path, error))
+            if (visit(it.value(), *match, it.key()))
                 return true;
         }
     } else if (given.is_array() && known.is_array()) {
         for (size_t i = 0; i < given.size() && i < known.size(); ++i)
-            if (findUnknownKey(given[i], known[i], where + "/" + std::to_string(i), error))
+            if (visit(given[i], known[i], std::to_string(i)))
                 return true;
     }
     return false;
@@ -196,7 +208,8 @@ bool scenarioFromText(const std::string& text, const std::string& origin, San& o
         if (checkHeader(j, what)) {
             San san = j.get<San>();
             nlohmann::json known = san;
-            if (!findUnknownKey(j, known, "", what) && validateSan(san, what)) {
+            std::string path;
+            if (!findUnknownKey(j, known, path, what) && validateSan(san, what)) {
                 out = std::move(san);
                 return true;
             }
