@@ -4,6 +4,7 @@
 // part stays, and the run goes on. Writing replaces the file in one step so
 // that a failed write never loses the previous preferences.
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -21,8 +22,8 @@ namespace {
 
 constexpr char const* kPreferencesFileName = "zekcli.ini";
 constexpr int32_t kFileHeader[4] = {2, 103, 6, 4};
-// Every command reads the whole file and most rewrite it; one buffer larger
-// than the file makes each of those a single system call, not one per 4 KB.
+// Every command reads the whole file; one buffer larger than the file makes
+// that a single system call, not one per 4 KB.
 constexpr size_t kFileBufferSize = 64 * 1024;
 
 // glibc takes the size only together with a buffer of the caller's, which
@@ -300,26 +301,70 @@ void Parser::init()
         fclose(file);
 }
 
+namespace {
+
+// The tree as the file would hold it, built in memory first so that it can be
+// compared with what is on disk.
+bool serialisePreferences(TokenRoot& root, std::string& out)
+{
+    char* data = nullptr;
+    size_t size = 0;
+    FILE* stream = open_memstream(&data, &size);
+    if (!stream)
+        return false;
+    bool const written = writeBytes(stream, kFileHeader, sizeof kFileHeader) && root.saveToPrefFile(stream);
+    bool const closed = fclose(stream) == 0;
+    if (written && closed)
+        out.assign(data, size);
+    free(data);
+    return written && closed;
+}
+
+bool fileHolds(std::string const& path, std::string const& bytes)
+{
+    FILE* file = fopen(path.c_str(), "rb");
+    if (!file)
+        return false;
+    std::string held(bytes.size() + 1, '\0');
+    size_t const got = fread(held.data(), 1, held.size(), file);
+    fclose(file);
+    return got == bytes.size() && std::memcmp(held.data(), bytes.data(), got) == 0;
+}
+
 // Written to a private temporary file beside the old one and renamed over
 // it: the file holds password keyword values in clear, and a write that
 // fails half-way must not cost the user the preferences they had.
-void Parser::save()
+void replaceFile(std::string const& path, std::string const& bytes)
 {
-    std::string const path = preferencesPath();
     std::string temporary = path + ".XXXXXX";
     int const fd = mkstemp(temporary.data());
     if (fd < 0)
         return;
     fchmod(fd, S_IRUSR | S_IWUSR);
-    FILE* file = fdopen(fd, "wb");
-    if (!file) {
-        close(fd);
-        unlink(temporary.c_str());
-        return;
+    size_t done = 0;
+    while (done < bytes.size()) {
+        ssize_t const n = write(fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            break;
+        done += static_cast<size_t>(n);
     }
-    std::unique_ptr<char[]> const buffer = useLargeBuffer(file);
-    bool const written = writeBytes(file, kFileHeader, sizeof kFileHeader) && root.saveToPrefFile(file);
-    bool const closed = fclose(file) == 0;
-    if (!written || !closed || rename(temporary.c_str(), path.c_str()) != 0)
+    bool const closed = close(fd) == 0;
+    if (done != bytes.size() || !closed || rename(temporary.c_str(), path.c_str()) != 0)
         unlink(temporary.c_str());
+}
+
+} // namespace
+
+// Most commands leave the preferences as they found them; replacing a file
+// by rename costs more than the rest of such a command, so a file that
+// already holds exactly these bytes is left alone.
+void Parser::save()
+{
+    std::string const path = preferencesPath();
+    std::string bytes;
+    if (!serialisePreferences(root, bytes) || fileHolds(path, bytes))
+        return;
+    replaceFile(path, bytes);
 }

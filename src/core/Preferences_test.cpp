@@ -278,6 +278,35 @@ TEST_F(PreferencesFile, SaveWritesAPrivateFileThatTheNextRunReads)
     EXPECT_EQ("-quiet", second.root.getAppendSet("mine", err));
 }
 
+// Replacing the file is the dearest part of a short command, so identical
+// preferences stay in the file that holds them; a change still replaces it.
+TEST_F(PreferencesFile, OnlyChangedPreferencesReplaceTheFile)
+{
+    std::string const path = dir.file("zekcli.ini");
+    auto const saveAfter = [&](char const* line) {
+        Parser p;
+        p.init();
+        p.commandLine = line;
+        EXPECT_EQ(0, p.parseCommandLine(err));
+        p.save();
+        struct stat info {};
+        EXPECT_EQ(0, stat(path.c_str(), &info));
+        return info.st_ino;
+    };
+    // A first run saves other group tables than the runs after it.
+    saveAfter("set append -append=mine -quiet");
+    ino_t const first = saveAfter("set append -append=mine -quiet");
+    std::string const bytes = readWholeFile(path);
+    EXPECT_EQ(first, saveAfter("set append -append=mine -quiet"));
+    EXPECT_EQ(bytes, readWholeFile(path));
+    EXPECT_NE(first, saveAfter("set append -append=mine -echo"));
+    EXPECT_NE(bytes, readWholeFile(path));
+
+    Parser reader;
+    reader.init();
+    EXPECT_EQ("-echo", reader.root.getAppendSet("mine", err));
+}
+
 // A write cut short by a file size limit must leave the old preferences
 // and no temporary file behind.
 TEST_F(PreferencesFile, FailedSaveKeepsTheOldFile)
