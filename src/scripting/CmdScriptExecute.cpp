@@ -1,7 +1,15 @@
 #include "scripting/CmdScriptExecute.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <sys/stat.h>
+
+#include "api/MhbaReturn.h"
 #include "commands/CommandDeclaration.h"
-#include "commands/NotAvailable.h"
+#include "core/TokenRoot.h"
+#include "core/TreeRoot.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -12,7 +20,55 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     endRow(),
 };
 
+// The first characters that make a line a comment.
+constexpr char kCommentStarts[] = "#!;/:";
+
+std::string twoDigits(int value)
+{
+    return (value < 10 ? "0" : "") + std::to_string(value);
+}
+
+// Hours, minutes and seconds of the file name: a zero is written as three
+// zeros. Log names already in use by administrators' tooling look like this,
+// so the form stays.
+std::string timeField(int value)
+{
+    return value == 0 ? "000" : twoDigits(value);
+}
+
+// A keyword counts when it was typed on the line, not merely remembered.
+TokenModifierString const* givenKeyword(TokenCmd const& cmd, ModifierId::MODIFIER_ID id, bool& given,
+                                        std::string& err)
+{
+    TokenModifierString const* const keyword = cmd.findModifier(id, err);
+    given = keyword && !keyword->isDefault;
+    return keyword;
+}
+
+// A directory opens for reading like a file and then reads as empty, which
+// would pass for an empty script; it is refused as an unreadable file.
+bool refuseDirectory(FILE* script, std::string const& path, std::string& err)
+{
+    struct stat status {};
+    if (fstat(fileno(script), &status) != 0 || !S_ISDIR(status.st_mode))
+        return false;
+    err = "Unable to open file \"" + path + "\", (" + std::strerror(EISDIR) + ")";
+    return true;
+}
+
 } // namespace
+
+void ScriptRunSwitches::appendTo(std::string& line) const
+{
+    if (quiet)
+        line += " -quiet";
+    if (showOnlyError)
+        line += " -show_only_error";
+    if (echo)
+        line += " -echo";
+    if (textFile)
+        line += " -text=\"" + textFileName + "\"";
+}
 
 CmdScriptExecute::CmdScriptExecute()
 {
@@ -31,7 +87,108 @@ CmdScriptExecute::CmdScriptExecute()
     helpNotes = "-quiet, -show_only_error, -echo and -textfile are added to every line of the script.";
 }
 
+bool CmdScriptExecute::isSkippedLine(std::string const& line)
+{
+    return line.empty() || std::strchr(kCommentStarts, line[0]) != nullptr;
+}
+
+std::string CmdScriptExecute::textFileNameFor(std::string const& scriptPath, std::tm const& local)
+{
+    std::string::size_type const dot = scriptPath.rfind('.');
+    std::string name = dot == std::string::npos ? scriptPath : scriptPath.substr(0, dot);
+    name += "_" + std::to_string(local.tm_year + 1900) + twoDigits(local.tm_mon + 1) + twoDigits(local.tm_mday);
+    name += "_" + timeField(local.tm_hour) + timeField(local.tm_min) + timeField(local.tm_sec);
+    return name + ".log";
+}
+
+bool CmdScriptExecute::readSwitches(std::string const& scriptPath, ScriptRunSwitches& switches,
+                                    std::string& err) const
+{
+    if (!givenKeyword(*this, ModifierId::MODIFIER_CONTINUE_ON_ERROR, switches.continueOnError, err)
+        || !givenKeyword(*this, ModifierId::MODIFIER_QUIET, switches.quiet, err)
+        || !givenKeyword(*this, ModifierId::MODIFIER_SHOW_ONLY_ERROR, switches.showOnlyError, err)
+        || !givenKeyword(*this, ModifierId::MODIFIER_ECHO, switches.echo, err))
+        return false;
+    TokenModifierString const* const text = givenKeyword(*this, ModifierId::MODIFIER_TEXTFILE, switches.textFile, err);
+    if (!text)
+        return false;
+    if (!switches.textFile)
+        return true;
+    // One name for the whole run, so that every line writes to one file.
+    switches.textFileName = text->value;
+    if (switches.textFileName.empty()) {
+        std::time_t const now = std::time(nullptr);
+        std::tm local{};
+        localtime_r(&now, &local);
+        switches.textFileName = textFileNameFor(scriptPath, local);
+    }
+    return true;
+}
+
+int CmdScriptExecute::runLines(FILE* script, ScriptRunSwitches const& switches, std::string& err)
+{
+    TokenRoot* const root = rootOfTree(this);
+    unsigned int lineNumber = 0;
+    int failing = ZEKCLI_OK;
+    std::string line;
+    while (failing == ZEKCLI_OK && readLineFromFilePointer(script, line)) {
+        ++lineNumber;
+        if (isSkippedLine(line))
+            continue;
+        switches.appendTo(line);
+        failing = root->execOneCommandLine(line, err, lineNumber);
+        // The parser records no command for a line it could not read.
+        if (failing == ZEKCLI_PARSE_FAIL)
+            root->stats.add("******", "Parse Error", ZEKCLI_PARSE_FAIL, lineNumber);
+        if (switches.continueOnError)
+            failing = ZEKCLI_OK;
+    }
+    return failing;
+}
+
+int CmdScriptExecute::reportRun(std::string const& scriptPath, int failing, std::string& err) const
+{
+    // The failing line's own message stays in `err` for the caller to show;
+    // only a failure of this output replaces it.
+    std::string outputErr;
+    if (!displayIpAddress(nullptr, outputErr)) {
+        err = outputErr;
+        return ZEKCLI_OUTPUT_FAIL;
+    }
+    std::string const outcome = failing != ZEKCLI_OK ? "\" failed to complete" : "\" completed OK";
+    if (!outDisplay("Script \"" + scriptPath + outcome, outputErr)) {
+        err = outputErr;
+        return ZEKCLI_OUTPUT_FAIL;
+    }
+    outError(rootOfTree(this)->stats.displayText());
+    if (!outResult(failing != ZEKCLI_OK ? MHBA_E_FAILURE : MHBA_S_OK, nullptr, 0, outputErr)) {
+        err = outputErr;
+        return ZEKCLI_OUTPUT_FAIL;
+    }
+    return failing;
+}
+
 int CmdScriptExecute::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    err.clear();
+    if (!rootOfTree(this)) {
+        err = "The command is not part of a command tree";
+        return ZEKCLI_CMD_FAIL;
+    }
+    TokenModifierString const* const file = findModifier(ModifierId::MODIFIER_FILEPATH, err);
+    if (!file)
+        return ZEKCLI_PARSE_FAIL;
+    // Copied: a line of the script may give this very keyword a new value.
+    std::string const scriptPath = file->value;
+    FILE* script = nullptr;
+    if (!safe_fopen(&script, scriptPath, "r", err))
+        return ZEKCLI_PARSE_FAIL;
+    ScriptRunSwitches switches;
+    if (refuseDirectory(script, scriptPath, err) || !readSwitches(scriptPath, switches, err)) {
+        std::fclose(script);
+        return ZEKCLI_PARSE_FAIL;
+    }
+    int const failing = runLines(script, switches, err);
+    std::fclose(script);
+    return reportRun(scriptPath, failing, err);
 }
