@@ -133,16 +133,21 @@ void fillAdapterInfo(const San& san, const Adapter& a, KIsaAdapterInfo& out)
     fillHostInfo(findHost(san, a.host), out.hostInfo);
 }
 
+void fillLunStanding(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo& out)
+{
+    out.bValid = true;
+    out.m_eCacheState = static_cast<KLunInfo::KISA_CACHE_STATE>(cacheStateFor(lun, viewer.id.value));
+    out.m_ui64ClusterCacheAdapterPrimary = lun.cached ? lun.cache.adapter.value : 0;
+    out.m_eMirrorState = static_cast<KLunInfo::KISA_MIRROR_STATE>(mirrorStateFor(lun, viewer.id.value));
+    out.ui32LunState = lunStateBits(san, lun, viewer);
+}
+
 void fillLunInfo(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo& out)
 {
     out.init();
-    out.bValid = true;
+    fillLunStanding(san, lun, viewer, out);
     out.ui64LunSizeBytes = lun.sizeBytes;
     out.m_eLunType = static_cast<KLunInfo::KISA_LUN_TYPE>(lun.type);
-    int state = cacheStateFor(lun, viewer.id.value);
-    out.m_eCacheState = static_cast<KLunInfo::KISA_CACHE_STATE>(state);
-    out.m_ui64ClusterCacheAdapterPrimary = lun.cached ? lun.cache.adapter.value : 0;
-    out.m_eMirrorState = static_cast<KLunInfo::KISA_MIRROR_STATE>(mirrorStateFor(lun, viewer.id.value));
     out.bCacheSynchronizing = lun.cached && lun.cache.mirrored && (lun.cache.mirrorState & (1u << 9));
     copyText(out.szVendorId, sizeof out.szVendorId, lun.vendor);
     copyText(out.szProductId, sizeof out.szProductId, lun.product);
@@ -157,7 +162,6 @@ void fillLunInfo(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo
     std::memcpy(out.ui8Wwuln, wwuln.data(), wwuln.size());
     out.eWwulnCodeSet = static_cast<PBase::WWULN_CODE_SET_TYPE>(lun.codeSet);
     out.ui32WwulnLength = static_cast<uint32_t>(wwuln.size());
-    out.ui32LunState = lunStateBits(san, lun, viewer);
     if (lun.local) {
         KSsdLunInfo& s = out.ssdLunInfo;
         s.bValid = true;
@@ -171,7 +175,7 @@ void fillLunInfo(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo
     if (lun.cached) {
         const CacheSettings& c = lun.cache;
         ci.bValid = true;
-        bool holder = state == 2;
+        bool holder = out.m_eCacheState == KLunInfo::CACHE_STATE_CACHED_LOCAL;
         bool mirror = c.mirrored && c.mirrorAdapter == viewer.id;
         if (holder) {
             ci.eProfileType = static_cast<KLunCacheInfo::CACHE_PROFILE_TYPE>(c.profile);

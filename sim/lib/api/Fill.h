@@ -28,6 +28,10 @@ namespace sim {
 
 void fillAdapterInfo(const San& san, const Adapter& a, KIsaAdapterInfo& out);
 void fillLunInfo(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo& out);
+// Only how the LUN stands for this adapter: valid, its state bits, cache and
+// mirror state and the caching adapter. Every call writes the same fields, so
+// one record can serve a walk over many LUNs that reads no more than these.
+void fillLunStanding(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo& out);
 void fillTargetInfo(const San& san, const Target& t, const Adapter& viewer, KTargetInfo& out);
 void fillInitiatorInfo(const Initiator& i, KInitiatorInfo& out);
 void fillFcInfo(const Port& p, unsigned index, KFcInfo& out);

@@ -75,8 +75,13 @@ const Target* targetFor(const San& san, const PTargetID& id)
 
 PLunID lunId(const Target& t, const LunPath& p)
 {
+    return lunId(targetId(t), p);
+}
+
+PLunID lunId(const PTargetID& target, const LunPath& p)
+{
     PLunID id;
-    id.initLunID(targetId(t), static_cast<int>(p.lun), PBase::convertIntToVpIndex(static_cast<int>(p.vpGroup)));
+    id.initLunID(target, static_cast<int>(p.lun), PBase::convertIntToVpIndex(static_cast<int>(p.vpGroup)));
     return id;
 }
 

@@ -22,6 +22,8 @@ PTargetID targetId(const Target& t);
 const Target* targetFor(const San& san, const PTargetID& id);
 
 PLunID lunId(const Target& t, const LunPath& p);
+// For walks over many paths of one target, whose identifier is made once.
+PLunID lunId(const PTargetID& target, const LunPath& p);
 bool pathFor(const San& san, const PLunID& id, PathRef& out);
 
 // The bytes of a LUN's WWULN as the adapter reports them.

@@ -1,6 +1,6 @@
 #include "api/SimApi.h"
 
-#include "api/Fill.h"
+#include "api/GroupScan.h"
 #include "api/Ids.h"
 #include "api/KAdapterEventNotificationInfo.h"
 #include "model/Codes.h"
@@ -9,10 +9,6 @@
 
 #include "records/KAdapterGroupExtendedLunInfo.h"
 #include "records/KLibraryVersionInfo.h"
-#include "records/KLunInfo.h"
-
-#include <unordered_map>
-#include <unordered_set>
 
 namespace sim {
 
@@ -330,30 +326,13 @@ e_MHBA_RETURN SimApi::scanAdapterGroupLuns(const std::vector<KIsaAdapterPath>& a
         return asReturn(code::StateFileError);
     }
     long long now = backend_.now();
-    std::unordered_map<std::string, size_t> groupOf;    // by WWULN, for large SANs
-    for (size_t i = 0; i < groupLuns_.items.size(); ++i)
-        groupOf.emplace(idKey(groupLuns_.items[i].wwulnLunId), i);
+    AdapterGroupScan scan(*san, groupLuns_.items);
     for (const KIsaAdapterPath& path : adaptersInScope) {
         const Adapter* a = adapterForPath(*san, path);
         if (!a || !answers(*a, now))
             continue;
         // Adapters reached directly are better to ask than those seen through the SAN.
-        auto rank = static_cast<KAdapterGroupExtendedLunInfo::PREFERRED_ADAPTER_TYPE>(a->device >= 0 ? 2 : 1);
-        std::unordered_set<const Lun*> done;
-        for (const VisiblePath& p : visiblePaths(*san, *a)) {
-            if (!done.insert(p.lun).second)
-                continue;
-            KWwulnLunID wwuln = wwulnId(*p.lun);
-            auto [at, fresh] = groupOf.emplace(idKey(wwuln), groupLuns_.items.size());
-            if (fresh) {
-                groupLuns_.items.emplace_back();
-                groupLuns_.items.back().init();
-                groupLuns_.items.back().wwulnLunId = wwuln;
-            }
-            KLunInfo info;
-            fillLunInfo(*san, *p.lun, *a, info);
-            groupLuns_.items[at->second].addInfoForOneLun(a->id.value, lunId(*p.target, *p.path), info, rank);
-        }
+        scan.addAdapter(*a, static_cast<KAdapterGroupExtendedLunInfo::PREFERRED_ADAPTER_TYPE>(a->device >= 0 ? 2 : 1));
     }
     return MHBA_S_OK;
 }

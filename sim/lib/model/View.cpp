@@ -1,6 +1,8 @@
 #include "model/View.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_map>
 
 namespace sim {
 
@@ -110,6 +112,18 @@ bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path)
     return t && findLun(san, path) && adapterSeesTarget(san, a, *t);
 }
 
+namespace {
+
+// Paths in the order a target reports them.
+void sortByLunNumber(std::vector<VisiblePath>& paths)
+{
+    std::stable_sort(paths.begin(), paths.end(), [](const VisiblePath& x, const VisiblePath& y) {
+        return x.path->lun != y.path->lun ? x.path->lun < y.path->lun : x.path->vpGroup < y.path->vpGroup;
+    });
+}
+
+} // namespace
+
 std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a, const Target& t)
 {
     std::vector<VisiblePath> found;
@@ -119,20 +133,38 @@ std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a, const Ta
         for (const LunPath& p : l.paths)
             if (p.target == t.name)
                 found.push_back({&t, &p, &l});
-    std::stable_sort(found.begin(), found.end(), [](const VisiblePath& x, const VisiblePath& y) {
-        return x.path->lun != y.path->lun ? x.path->lun < y.path->lun : x.path->vpGroup < y.path->vpGroup;
-    });
+    sortByLunNumber(found);
+    return found;
+}
+
+PathIndex::PathIndex(const San& san) : byTarget_(san.targets.size())
+{
+    // Target names are unique in a SAN that loaded.
+    std::unordered_map<std::string_view, size_t> indexOf;
+    for (size_t i = 0; i < san.targets.size(); ++i)
+        indexOf.emplace(san.targets[i].name, i);
+    for (const Lun& l : san.luns)
+        for (const LunPath& p : l.paths) {
+            auto at = indexOf.find(p.target);
+            if (at != indexOf.end())
+                byTarget_[at->second].push_back({&san.targets[at->second], &p, &l});
+        }
+    for (std::vector<VisiblePath>& paths : byTarget_)
+        sortByLunNumber(paths);
+}
+
+std::vector<VisiblePath> visiblePaths(const San& san, const PathIndex& index, const Adapter& a)
+{
+    std::vector<VisiblePath> found;
+    for (size_t i = 0; i < san.targets.size(); ++i)
+        if (adapterSeesTarget(san, a, san.targets[i]))
+            found.insert(found.end(), index.pathsOf(i).begin(), index.pathsOf(i).end());
     return found;
 }
 
 std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a)
 {
-    std::vector<VisiblePath> found;
-    for (const Target& t : san.targets) {
-        auto some = visiblePaths(san, a, t);
-        found.insert(found.end(), some.begin(), some.end());
-    }
-    return found;
+    return visiblePaths(san, PathIndex(san), a);
 }
 
 int cacheStateFor(const Lun& lun, u64 adapter)

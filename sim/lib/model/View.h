@@ -42,8 +42,22 @@ struct VisiblePath {
     const Lun* lun;
 };
 
+// Every LUN path of the SAN, sorted out once by target: walking the LUNs once
+// per target costs targets times LUNs, too much for walks over many adapters.
+class PathIndex {
+public:
+    explicit PathIndex(const San& san);
+    // The paths through the target at this index of the SAN's list, by LUN
+    // number and then volume path group.
+    const std::vector<VisiblePath>& pathsOf(size_t targetIndex) const { return byTarget_[targetIndex]; }
+
+private:
+    std::vector<std::vector<VisiblePath>> byTarget_;
+};
+
 // Every LUN path the adapter reaches, in target order and then by LUN number.
 std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a);
+std::vector<VisiblePath> visiblePaths(const San& san, const PathIndex& index, const Adapter& a);
 std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a, const Target& t);
 
 // 1 not cached, 2 cached on this adapter, 3 cached on a peer.
