@@ -4,6 +4,9 @@
 #define JSON_DIAGNOSTICS 1
 #include <nlohmann/json.hpp>
 
+#include "model/SanFields.h"
+#include "model/ScenarioCodec.h"
+
 #include <arpa/inet.h>
 #include <cinttypes>
 #include <cstdio>
@@ -50,42 +53,26 @@ void from_json(const nlohmann::json& j, AdapterId& id)
         throw std::invalid_argument("an adapter id must be up to 16 hexadecimal digits, not " + j.dump());
 }
 
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Host, agent, hostType, systemName, nodeName, osVersion,
-    osBuildDate, machineName, domainName, driverVersion, online, agentVersion)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Sfp, vendorName, serialNumber, driverStatus, temperatureC,
-    voltage, txBiasMa, txPowerMw, rxPowerMw)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Port, enabled, online, fcMode, linkRate, programmedLinkRate,
-    wwnn, wwpn, portId, firmwareRevision, frameSize, sfpState, executionThrottle, connectionMode,
-    connectionOption, fcipLink, beacon, sfp)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(SmartAttribute, id, name, value, worst, threshold, raw, displayType)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Drive, id, vendor, product, revision, serial, sizeBytes,
-    configured, online, pcieSsd, securityLocked, identityConflict, external, smartStatus, smart)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LogRecord, time, severity, source, message)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Health, temperatureFront, temperatureRear, temperatureCpu,
-    temperatureNvdimm, temperatureFcChip, driversLoadedMask, errorMask, dramEccSingleBitErrors, failedPostTest)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Nvdimm, present, firmwareVersion, serialNumber, partNumber,
-    temperature, status, superCap, superCapCharged)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Fault, adapter, operation, code, once, firstError)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Adapter, id, host, device, viaDevice, state, productName,
-    symbolicName, serialNumber, hwVersion, swVersion, ubootVersion, biosVersion, efiVersion, capabilities,
-    password, autoCluster, ports, drives, cachePoolBytes, health, nvdimm, files, log, bootTime, restartUntil, restartPolls,
-    statsClearedAt, needsRestart, memoryScale)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Cluster, id, hostClusterType, primary, secondary, members)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Target, name, protocol, wwpn, wwnn, portId, iscsiName, chap,
-    ports, online, mapped, internal, portalMode, maxOutstandingIo, seenBy)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Initiator, protocol, wwpn, wwnn, portId, iscsiName, loggedIn,
-    target, dm, seenBy)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LunPath, target, lun, vpGroup, status)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LockedRange, start, size)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(CacheSettings, adapter, mode, profile, maxCacheBytes, minRead,
-    maxRead, minWrite, maxWrite, lockedRanges, mirrored, mirrorAdapter, mirrorState, mirrorFlag, dirtyBytes,
-    flushStarted, flushPolls, since)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LocalLun, owner, name, readOnly, mirrorType, mirrorPeer)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Reservation, type, key)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Lun, wwuln, codeSet, type, sizeBytes, vendor, product, revision,
-    serial, page80, online, extraState, paths, reservation, cached, cache, statsClearedAt, local, localInfo)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(San, format, version, name, hosts, adapters, clusters, targets,
-    initiators, luns, faults, nextLocalLun)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Host, SIM_FIELDS_Host)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Sfp, SIM_FIELDS_Sfp)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Port, SIM_FIELDS_Port)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(SmartAttribute, SIM_FIELDS_SmartAttribute)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Drive, SIM_FIELDS_Drive)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LogRecord, SIM_FIELDS_LogRecord)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Health, SIM_FIELDS_Health)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Nvdimm, SIM_FIELDS_Nvdimm)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Fault, SIM_FIELDS_Fault)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Adapter, SIM_FIELDS_Adapter)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Cluster, SIM_FIELDS_Cluster)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Target, SIM_FIELDS_Target)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Initiator, SIM_FIELDS_Initiator)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LunPath, SIM_FIELDS_LunPath)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LockedRange, SIM_FIELDS_LockedRange)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(CacheSettings, SIM_FIELDS_CacheSettings)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(LocalLun, SIM_FIELDS_LocalLun)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Reservation, SIM_FIELDS_Reservation)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(Lun, SIM_FIELDS_Lun)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE_WITH_DEFAULT(San, SIM_FIELDS_San)
 
 namespace {
 
@@ -128,7 +115,7 @@ void pruneDefaults(nlohmann::json& j, const nlohmann::json& defaults)
 
 } // namespace
 
-std::string scenarioToText(const San& san)
+std::string generalScenarioToText(const San& san)
 {
     nlohmann::json j = san;
     nlohmann::json defaults = San{};
@@ -200,7 +187,25 @@ bool checkHeader(const nlohmann::json& j, std::string& error)
 
 } // namespace
 
+std::string scenarioToText(const San& san)
+{
+    std::string text;
+    // Text that is not UTF-8 cannot be written as JSON; the general path
+    // says so in its own words.
+    return codec::write(san, text) ? text : generalScenarioToText(san);
+}
+
 bool scenarioFromText(const std::string& text, const std::string& origin, San& out, std::string& error)
+{
+    San san;
+    if (codec::read(text, san) && validateSan(san, error)) {
+        out = std::move(san);
+        return true;
+    }
+    return generalScenarioFromText(text, origin, out, error);
+}
+
+bool generalScenarioFromText(const std::string& text, const std::string& origin, San& out, std::string& error)
 {
     std::string what;
     try {
