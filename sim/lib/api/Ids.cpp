@@ -112,16 +112,31 @@ KWwulnLunID wwulnId(const Lun& lun)
     return id;
 }
 
-const Lun* lunForWwuln(const San& san, const unsigned char* bytes, size_t length)
+const Lun* WwulnIndex::find(const San& san, const unsigned char* bytes, size_t length)
 {
     if (!bytes)
         return nullptr;
-    for (const Lun& l : san.luns) {
-        std::vector<unsigned char> own = wwulnBytes(l);
-        if (own.size() == length && std::memcmp(own.data(), bytes, length) == 0)
-            return &l;
+    const std::string key(reinterpret_cast<const char*>(bytes), length);
+    if (const Lun* known = lookup(san, key))
+        return known;
+    lunOf_.clear();
+    for (size_t i = 0; i < san.luns.size(); ++i) {
+        std::vector<unsigned char> own = wwulnBytes(san.luns[i]);
+        // The first of equal names wins, as in a walk from the start.
+        lunOf_.emplace(std::string(own.begin(), own.end()), i);
     }
-    return nullptr;
+    return lookup(san, key);
+}
+
+const Lun* WwulnIndex::lookup(const San& san, const std::string& key) const
+{
+    auto at = lunOf_.find(key);
+    if (at == lunOf_.end() || at->second >= san.luns.size())
+        return nullptr;
+    const Lun& lun = san.luns[at->second];
+    std::vector<unsigned char> own = wwulnBytes(lun);
+    bool same = own.size() == key.size() && std::memcmp(own.data(), key.data(), key.size()) == 0;
+    return same ? &lun : nullptr;
 }
 
 const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id)

@@ -10,6 +10,7 @@
 #include "records/PUniqueID.h"
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace sim {
@@ -29,8 +30,21 @@ bool pathFor(const San& san, const PLunID& id, PathRef& out);
 // The bytes of a LUN's WWULN as the adapter reports them.
 std::vector<unsigned char> wwulnBytes(const Lun& lun);
 KWwulnLunID wwulnId(const Lun& lun);
-const Lun* lunForWwuln(const San& san, const unsigned char* bytes, size_t length);
 const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id);
+
+// Finds LUNs by the bytes of their WWULN without decoding every LUN's name
+// for each question, which over thousands of LUNs asked one by one costs
+// their square. The index is made when first asked and made again whenever
+// the SAN no longer agrees with it, so it never answers from an old SAN.
+class WwulnIndex {
+public:
+    const Lun* find(const San& san, const unsigned char* bytes, size_t length);
+
+private:
+    const Lun* lookup(const San& san, const std::string& key) const;
+
+    std::unordered_map<std::string, size_t> lunOf_;
+};
 
 KDriveID driveId(const Drive& d);
 KWwulnLunID driveSsdId(const Drive& d);

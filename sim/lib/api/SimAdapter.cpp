@@ -302,7 +302,7 @@ e_MHBA_RETURN SimAdapter::getLunIoStatistics(const uint8_t* wwuln, uint32_t wwul
                                              KLunIoStatistics& out)
 {
     return asReturn(withAdapter("getLunIoStatistics", [&](const San& san, const Adapter& a) {
-        const Lun* lun = lunForWwuln(san, wwuln, wwulnLength);
+        const Lun* lun = wwulnIndex_.find(san, wwuln, wwulnLength);
         if (!lun)
             return code::ObjectNotFound;
         fillLunIoStatistics(san, *lun, a, withCacheStatistics, backend_.now(), out);
@@ -743,7 +743,7 @@ e_MHBA_RETURN SimAdapter::clearLunStatistics(const uint8_t* wwuln, uint32_t wwul
     const San* san = backend_.view();
     if (!san)
         return asReturn(code::StateFileError);
-    const Lun* lun = lunForWwuln(*san, wwuln, wwulnLength);
+    const Lun* lun = wwulnIndex_.find(*san, wwuln, wwulnLength);
     if (!lun)
         return MHBA_E_OBJECT_NOT_FOUND;
     std::string name = lun->wwuln;

@@ -6,6 +6,7 @@
 #include "api/Backend.h"
 #include "api/HIsaAdapter.h"
 #include "api/HLunNameIndex.h"
+#include "api/Ids.h"
 #include "api/Objects.h"
 #include "api/SimLogView.h"
 #include "model/View.h"
@@ -179,6 +180,7 @@ private:
     SimLunCollection luns_;
     SimLunPathTable pathTable_;
     SimLunNameIndex nameIndex_;
+    WwulnIndex wwulnIndex_;
     std::unique_ptr<SimLogView> logView_;
     bool discovered_ = false;
 };

@@ -1,0 +1,78 @@
+#include "api/Ids.h"
+
+#include "model/DefaultSan.h"
+
+#include <gtest/gtest.h>
+
+using namespace sim;
+
+namespace {
+
+const Lun* findByName(WwulnIndex& index, const San& san, const Lun& named)
+{
+    std::vector<unsigned char> bytes = wwulnBytes(named);
+    return index.find(san, bytes.data(), bytes.size());
+}
+
+class WwulnIndexTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        setenv("HBASIM_TIME", "1795000000", 1);
+        san = defaultSan();
+        ASSERT_GE(san.luns.size(), 3u);
+    }
+    San san;
+    WwulnIndex index;
+};
+
+} // namespace
+
+TEST_F(WwulnIndexTest, FindsEveryLunByTheBytesOfItsName)
+{
+    for (const Lun& l : san.luns)
+        EXPECT_EQ(findByName(index, san, l), &l) << l.wwuln;
+    Lun text;
+    text.wwuln = "a text name";
+    text.codeSet = 2;
+    san.luns.push_back(text);
+    EXPECT_EQ(findByName(index, san, text), &san.luns.back());
+}
+
+TEST_F(WwulnIndexTest, UnknownOrMissingNamesFindNothing)
+{
+    const unsigned char unknown[] = {0x60, 0x01, 0x02};
+    EXPECT_EQ(index.find(san, unknown, sizeof unknown), nullptr);
+    EXPECT_EQ(index.find(san, nullptr, 4), nullptr);
+    std::vector<unsigned char> first = wwulnBytes(san.luns[0]);
+    EXPECT_EQ(index.find(san, first.data(), first.size() - 1), nullptr);
+    San empty;
+    EXPECT_EQ(index.find(empty, first.data(), first.size()), nullptr);
+}
+
+TEST_F(WwulnIndexTest, AnswersFromTheSanAsItIsNowAfterLunsMove)
+{
+    Lun third = san.luns[2];
+    ASSERT_EQ(findByName(index, san, third), &san.luns[2]);
+    san.luns.erase(san.luns.begin());
+    EXPECT_EQ(findByName(index, san, third), &san.luns[1]);
+    Lun gone = san.luns[1];
+    san.luns.erase(san.luns.begin() + 1);
+    EXPECT_EQ(findByName(index, san, gone), nullptr);
+}
+
+TEST_F(WwulnIndexTest, ARenamedLunIsFoundOnlyByItsNewName)
+{
+    Lun before = san.luns[0];
+    ASSERT_EQ(findByName(index, san, before), &san.luns[0]);
+    san.luns[0].wwuln = "600A0B80000000000000000000000099";
+    san.luns[0].codeSet = 1;
+    EXPECT_EQ(findByName(index, san, before), nullptr);
+    EXPECT_EQ(findByName(index, san, san.luns[0]), &san.luns[0]);
+}
+
+TEST_F(WwulnIndexTest, TheFirstOfTwoEqualNamesIsFound)
+{
+    san.luns.push_back(san.luns[1]);
+    EXPECT_EQ(findByName(index, san, san.luns[1]), &san.luns[1]);
+}
