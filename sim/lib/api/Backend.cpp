@@ -7,6 +7,9 @@
 #include "model/Scenario.h"
 #include "state/Clock.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace sim {
 
 Backend::Backend() : store_(StateStore::defaultPath()) {}
@@ -24,6 +27,21 @@ void Backend::reportFailure(const std::string& error)
     warning(error);
 }
 
+// A process that just wrote the state needs no parse to see it again, as
+// long as the file is still the one it wrote.
+void Backend::takeWrittenAsView(const std::string& stamp)
+{
+    if (!haveWritten_)
+        return;
+    haveWritten_ = false;
+    if (stamp.empty() || stamp != written_.stamp)
+        return;
+    view_ = std::move(written_);
+    viewSettledAt_ = writtenAt_;
+    haveView_ = true;
+    lastFailure_.clear();
+}
+
 const San* Backend::view()
 {
     if (demo_) {
@@ -31,21 +49,38 @@ const San* Backend::view()
         return &*demo_;
     }
     std::string stamp = store_.stamp();
-    if (!haveCached_ || stamp.empty() || stamp != cachedStamp_) {
-        San san;
+    takeWrittenAsView(stamp);
+    if (!haveView_ || stamp.empty() || stamp != view_.stamp) {
+        Snapshot snapshot;
         std::string error;
-        if (!store_.read(san, error)) {
+        if (!store_.read(snapshot, error)) {
             reportFailure(error);
-            haveCached_ = false;
+            haveView_ = false;
             return nullptr;
         }
-        cached_ = std::move(san);
-        cachedStamp_ = store_.stamp();
-        haveCached_ = true;
+        view_ = std::move(snapshot);
+        viewSettledAt_ = std::numeric_limits<long long>::min();
+        haveView_ = true;
         lastFailure_.clear();
     }
-    rules::settle(cached_, now());
-    return &cached_;
+    long long t = now();
+    rules::settle(view_.san, t);
+    viewSettledAt_ = std::max(viewSettledAt_, t);
+    return &view_.san;
+}
+
+// What a change may start from instead of parsing the file again. Settling
+// only ever moves the SAN forward in time, and settling twice is the same as
+// settling once at the later time; a SAN settled up to `now` or earlier is
+// therefore exactly what a fresh read settled at `now` gives. The store still
+// checks that the file holds the text the snapshot came from.
+const Snapshot* Backend::changeBase(long long t) const
+{
+    if (haveWritten_)
+        return t >= writtenAt_ ? &written_ : nullptr;
+    if (haveView_ && t >= viewSettledAt_)
+        return &view_;
+    return nullptr;
 }
 
 int Backend::change(const std::function<int(San&, long long now)>& change, bool keepAlways)
@@ -61,16 +96,22 @@ int Backend::change(const std::function<int(San&, long long now)>& change, bool 
     }
     int rc = code::Ok;
     std::string error;
+    Snapshot next;
     bool stored = store_.update([&](San& san) {
         rules::settle(san, t);
         rc = change(san, t);
         return keepAlways || rc == code::Ok || rc == code::OkRestartRequired;
-    }, error);
+    }, error, changeBase(t), &next);
     if (!stored) {
         reportFailure(error);
         return code::StateFileError;
     }
-    haveCached_ = false;
+    if (!next.stamp.empty()) {
+        written_ = std::move(next);
+        writtenAt_ = t;
+        haveWritten_ = true;
+        haveView_ = false;
+    }
     return rc;
 }
 

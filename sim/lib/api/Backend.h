@@ -47,11 +47,21 @@ public:
 private:
     void reportFailure(const std::string& error);
 
+    void takeWrittenAsView(const std::string& stamp);
+    const Snapshot* changeBase(long long now) const;
+
     StateStore store_;
     std::optional<San> demo_;
-    San cached_;
-    std::string cachedStamp_;
-    bool haveCached_ = false;
+    // The SAN handed out by view(), with the file text and stamp it came
+    // from; brought up to the clock in place, up to `viewSettledAt_`.
+    Snapshot view_;
+    bool haveView_ = false;
+    long long viewSettledAt_ = 0;
+    // What this process wrote last. It becomes the view at the next view()
+    // rather than at once, so that what callers hold from view() stays put.
+    Snapshot written_;
+    bool haveWritten_ = false;
+    long long writtenAt_ = 0;
     HMsgHandler* handler_ = nullptr;
     std::string lastFailure_;   // said once, not again on every later call
 };

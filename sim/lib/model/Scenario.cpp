@@ -11,6 +11,8 @@
 #include <cinttypes>
 #include <cstdio>
 #include <set>
+#include <string_view>
+#include <unordered_set>
 
 namespace sim {
 
@@ -252,11 +254,38 @@ bool checkAgentAddress(const std::string& agent, std::string& error)
     return true;
 }
 
+// Every command that reads the state checks it, so the checks keep views of
+// the names rather than copies.
+using NameSet = std::unordered_set<std::string_view>;
+
+struct PathKey {
+    std::string_view target;
+    u32 lun;
+    u32 vpGroup;
+    bool operator==(const PathKey&) const = default;
+};
+
+struct PathKeyHash {
+    size_t operator()(const PathKey& key) const
+    {
+        size_t h = std::hash<std::string_view>()(key.target);
+        return h ^ (std::hash<u64>()((u64{key.lun} << 32) | key.vpGroup) + 0x9e3779b97f4a7c15ull + (h << 6) + (h >> 2));
+    }
+};
+
+std::unordered_set<u64> adapterIds(const San& san)
+{
+    std::unordered_set<u64> ids;
+    for (const Adapter& a : san.adapters)
+        ids.insert(a.id.value);
+    return ids;
+}
+
 bool validateAdapters(const San& san, std::string& error)
 {
-    std::set<u64> ids;
-    std::set<std::pair<std::string, int>> devices;
-    std::set<std::string> hosts;
+    std::unordered_set<u64> ids;
+    std::set<std::pair<std::string_view, int>> devices;
+    NameSet hosts;
     for (const Host& h : san.hosts) {
         if (!hosts.insert(h.agent).second)
             return fail(error, "host \"" + h.agent + "\" is defined twice");
@@ -264,33 +293,31 @@ bool validateAdapters(const San& san, std::string& error)
             return false;
     }
     for (const Adapter& a : san.adapters) {
-        std::string name = "adapter " + adapterIdText(a.id.value);
+        auto name = [&] { return "adapter " + adapterIdText(a.id.value); };
         if (!ids.insert(a.id.value).second)
-            return fail(error, name + " is defined twice");
+            return fail(error, name() + " is defined twice");
         if (!hosts.count(a.host))
-            return fail(error, name + " names host \"" + a.host + "\", which is not defined");
+            return fail(error, name() + " names host \"" + a.host + "\", which is not defined");
         if (a.device >= 0 && !devices.insert({a.host, a.device}).second)
-            return fail(error, name + " uses device " + std::to_string(a.device) + " twice on its host");
+            return fail(error, name() + " uses device " + std::to_string(a.device) + " twice on its host");
         if (a.state != 1 && a.state != 2)
-            return fail(error, name + " has state " + std::to_string(a.state) + " (1 online, 2 offline)");
+            return fail(error, name() + " has state " + std::to_string(a.state) + " (1 online, 2 offline)");
         if (a.ports.size() > 4)
-            return fail(error, name + " has more than 4 ports");
+            return fail(error, name() + " has more than 4 ports");
         if (a.drives.size() > 64)
-            return fail(error, name + " has more than 64 drives");
+            return fail(error, name() + " has more than 64 drives");
         for (const Drive& d : a.drives)
             if (d.smart.size() > 32)
-                return fail(error, name + " drive " + d.id + " has more than 32 SMART attributes");
+                return fail(error, name() + " drive " + d.id + " has more than 32 SMART attributes");
     }
     return true;
 }
 
 bool validateClusters(const San& san, std::string& error)
 {
-    std::set<u64> ids;
-    for (const Adapter& a : san.adapters)
-        ids.insert(a.id.value);
-    std::set<u64> clustered;
-    std::set<std::string> names;
+    std::unordered_set<u64> ids = adapterIds(san);
+    std::unordered_set<u64> clustered;
+    NameSet names;
     for (const Cluster& c : san.clusters) {
         if (!names.insert(c.id).second)
             return fail(error, "cluster \"" + c.id + "\" is defined twice");
@@ -306,35 +333,34 @@ bool validateClusters(const San& san, std::string& error)
 
 bool validateLuns(const San& san, std::string& error)
 {
-    std::set<std::string> targets;
-    std::set<u64> ids;
-    for (const Adapter& a : san.adapters)
-        ids.insert(a.id.value);
+    NameSet targets;
+    std::unordered_set<u64> ids = adapterIds(san);
     for (const Target& t : san.targets)
         if (!targets.insert(t.name).second)
             return fail(error, "target \"" + t.name + "\" is defined twice");
-    std::set<std::tuple<std::string, u32, u32>> paths;
-    std::set<std::string> names;
+    std::unordered_set<PathKey, PathKeyHash> paths;
+    NameSet names;
+    names.reserve(san.luns.size());
     for (const Lun& l : san.luns) {
-        std::string name = "LUN \"" + l.wwuln + "\"";
+        auto name = [&] { return "LUN \"" + l.wwuln + "\""; };
         if (l.wwuln.empty())
             return fail(error, "a LUN has no wwuln");
         if (!names.insert(l.wwuln).second)
-            return fail(error, name + " is defined twice");
+            return fail(error, name() + " is defined twice");
         if (l.codeSet != 1 && l.codeSet != 2)
-            return fail(error, name + " has codeSet " + std::to_string(l.codeSet) + " (1 binary, 2 text)");
+            return fail(error, name() + " has codeSet " + std::to_string(l.codeSet) + " (1 binary, 2 text)");
         for (const LunPath& p : l.paths) {
             if (!targets.count(p.target))
-                return fail(error, name + " has a path through unknown target \"" + p.target + "\"");
+                return fail(error, name() + " has a path through unknown target \"" + p.target + "\"");
             if (!paths.insert({p.target, p.lun, p.vpGroup}).second)
-                return fail(error, name + " reuses LUN number " + std::to_string(p.lun) + " of target \"" + p.target + "\"");
+                return fail(error, name() + " reuses LUN number " + std::to_string(p.lun) + " of target \"" + p.target + "\"");
         }
         if (l.cached && !ids.count(l.cache.adapter.value))
-            return fail(error, name + " is cached on unknown adapter " + adapterIdText(l.cache.adapter.value));
+            return fail(error, name() + " is cached on unknown adapter " + adapterIdText(l.cache.adapter.value));
         if (l.cache.lockedRanges.size() > 16)
-            return fail(error, name + " has more than 16 locked ranges");
+            return fail(error, name() + " has more than 16 locked ranges");
         if (l.local && !ids.count(l.localInfo.owner.value))
-            return fail(error, name + " belongs to unknown adapter " + adapterIdText(l.localInfo.owner.value));
+            return fail(error, name() + " belongs to unknown adapter " + adapterIdText(l.localInfo.owner.value));
     }
     return true;
 }

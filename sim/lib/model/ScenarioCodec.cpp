@@ -11,6 +11,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <numeric>
 #include <type_traits>
@@ -92,25 +93,63 @@ const T& elementDefault()
 }
 
 // Positions of the fields of T in the order of their names, which is the
-// order the general path writes them in.
+// order the general path writes them in, and the names by position.
+struct FieldOrder {
+    std::vector<unsigned char> positions;
+    std::vector<std::string_view> names;
+};
+
 template <FieldStruct T>
-const std::vector<unsigned char>& sortedFieldOrder()
+const FieldOrder& sortedFieldOrder()
 {
-    static const std::vector<unsigned char> order = [] {
-        std::vector<std::string_view> names;
-        visitFields([&](const char* name, const auto&) { names.push_back(name); }, elementDefault<T>());
-        std::vector<unsigned char> positions(names.size());
-        std::iota(positions.begin(), positions.end(), 0);
-        std::sort(positions.begin(), positions.end(),
-                  [&](unsigned char a, unsigned char b) { return names[a] < names[b]; });
-        return positions;
+    static const FieldOrder order = [] {
+        FieldOrder o;
+        visitFields([&](const char* name, const auto&) { o.names.push_back(name); }, elementDefault<T>());
+        o.positions.resize(o.names.size());
+        std::iota(o.positions.begin(), o.positions.end(), 0);
+        std::sort(o.positions.begin(), o.positions.end(),
+                  [&](unsigned char a, unsigned char b) { return o.names[a] < o.names[b]; });
+        return o;
     }();
     return order;
 }
 
+// The text being written. Appending to a std::string costs a call and a
+// check per piece; the writer appends many small pieces, so it fills a
+// buffer it sizes itself and trims it at the end.
+class Output {
+public:
+    explicit Output(std::string& text) : text_(text) { text_.resize(16 * 1024); }
+    ~Output() { text_.resize(length_); }
+    Output(const Output&) = delete;
+    Output& operator=(const Output&) = delete;
+
+    void operator+=(char c)
+    {
+        if (length_ == text_.size())
+            grow(1);
+        text_[length_++] = c;
+    }
+    void operator+=(std::string_view piece) { append(piece.data(), piece.size()); }
+    void append(const char* first, const char* last) { append(first, static_cast<size_t>(last - first)); }
+    void append(const char* data, size_t size)
+    {
+        if (text_.size() - length_ < size)
+            grow(size);
+        std::memcpy(text_.data() + length_, data, size);
+        length_ += size;
+    }
+
+private:
+    void grow(size_t more) { text_.resize(std::max(2 * text_.size(), length_ + more)); }
+
+    std::string& text_;
+    size_t length_ = 0;
+};
+
 class Writer {
 public:
-    explicit Writer(std::string& out) : out_(out) {}
+    explicit Writer(Output& out) : out_(out) {}
 
     bool ok() const { return ok_; }
 
@@ -119,7 +158,6 @@ public:
     {
         // Each field that differs from its default, in the order of the list.
         struct Slot {
-            const char* name;
             const void* value;
             const void* defaults;
             void (*emit)(Writer&, const void*, const void*, int);
@@ -130,18 +168,20 @@ public:
         visitFieldPairs([&](const char* name, const auto& v, const auto& d) {
             using F = std::remove_cvref_t<decltype(v)>;
             bool header = keepHeader && (std::string_view(name) == "format" || std::string_view(name) == "version");
-            slots[count++] = Slot{name, &v, &d, &Writer::emitErased<F>, header || !same(v, d)};
+            slots[count++] = Slot{&v, &d, &Writer::emitErased<F>, header || !same(v, d)};
         }, value, defaults);
+        const FieldOrder& order = sortedFieldOrder<T>();
         bool first = true;
-        for (unsigned char position : sortedFieldOrder<T>()) {
+        for (unsigned char position : order.positions) {
             const Slot& slot = slots[position];
             if (!slot.shown)
                 continue;
             out_ += first ? "{" : ",";
             first = false;
             newline(depth + 1);
-            string(slot.name);
-            out_ += ": ";
+            out_ += '"';
+            out_ += order.names[position];     // field names need no escapes
+            out_ += "\": ";
             slot.emit(*this, slot.value, slot.defaults, depth + 1);
         }
         close(first, "{}", '}', depth);
@@ -188,7 +228,18 @@ private:
     }
 
     void emit(const std::string& text, const std::string&, int) { string(text); }
-    void emit(const AdapterId& id, const AdapterId&, int) { string(adapterIdText(id.value)); }
+    // As adapterIdText writes it: upper-case hexadecimal digits.
+    void emit(const AdapterId& id, const AdapterId&, int)
+    {
+        std::array<char, 20> digits;
+        char* end = std::to_chars(digits.data(), digits.data() + digits.size(), id.value, 16).ptr;
+        for (char* p = digits.data(); p < end; ++p)
+            if (*p >= 'a')
+                *p = static_cast<char>(*p - 'a' + 'A');
+        out_ += '"';
+        out_.append(digits.data(), end);
+        out_ += '"';
+    }
     void emit(bool flag, bool, int) { out_ += flag ? "true" : "false"; }
 
     void emit(double number, double, int)
@@ -213,8 +264,14 @@ private:
 
     void newline(int depth)
     {
+        static const std::string breaks = "\n" + std::string(64, ' ');
+        if (static_cast<size_t>(depth) < breaks.size()) {
+            out_.append(breaks.data(), static_cast<size_t>(depth) + 1);
+            return;
+        }
         out_ += '\n';
-        out_.append(static_cast<size_t>(depth), ' ');
+        for (int i = 0; i < depth; ++i)
+            out_ += ' ';
     }
 
     // Ends a list or object; one with no members is written on one line.
@@ -236,7 +293,7 @@ private:
         auto end = p + text.size();
         while (p < end) {
             auto run = p;
-            while (run < end && *run >= 0x20 && *run < 0x80 && *run != '"' && *run != '\\')
+            while (run < end && plainCharacters()[*run])
                 ++run;
             out_.append(reinterpret_cast<const char*>(p), static_cast<size_t>(run - p));
             p = run;
@@ -272,7 +329,19 @@ private:
         out_ += '"';
     }
 
-    std::string& out_;
+    // Bytes that go into a JSON string as they are, one lookup per byte.
+    static const std::array<bool, 256>& plainCharacters()
+    {
+        static const std::array<bool, 256> plain = [] {
+            std::array<bool, 256> table{};
+            for (int c = 0x20; c < 0x80; ++c)
+                table[static_cast<size_t>(c)] = c != '"' && c != '\\';
+            return table;
+        }();
+        return plain;
+    }
+
+    Output& out_;
     bool ok_ = true;
 };
 
@@ -662,10 +731,10 @@ bool headerAccepted(const San& san, std::uint64_t seen)
 
 bool write(const San& san, std::string& out)
 {
-    out.clear();
-    Writer writer(out);
+    Output output(out);
+    Writer writer(output);
     writer.object(san, elementDefault<San>(), 0, true);
-    out += '\n';
+    output += '\n';
     return writer.ok();
 }
 

@@ -85,7 +85,17 @@ bool fileExists(const std::string& path)
 
 } // namespace
 
-bool readTextFile(const std::string& path, std::string& text, std::string& error)
+namespace {
+
+std::string stampOf(const struct stat& st)
+{
+    return std::to_string(st.st_ino) + ":" + std::to_string(st.st_size) + ":" + std::to_string(st.st_mtim.tv_sec)
+           + "." + std::to_string(st.st_mtim.tv_nsec);
+}
+
+// Reads a whole file; `stamp`, when given, gets the stamp of the very file
+// read, not of whatever the path names a moment later.
+bool readWholeFile(const std::string& path, std::string& text, std::string* stamp, std::string& error)
 {
     int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
@@ -93,6 +103,9 @@ bool readTextFile(const std::string& path, std::string& text, std::string& error
         return false;
     }
     text.clear();
+    struct stat st;
+    if (::fstat(fd, &st) == 0 && st.st_size > 0)
+        text.reserve(static_cast<size_t>(st.st_size));
     char buf[65536];
     for (;;) {
         ssize_t n = ::read(fd, buf, sizeof buf);
@@ -107,8 +120,17 @@ bool readTextFile(const std::string& path, std::string& text, std::string& error
             break;
         text.append(buf, static_cast<size_t>(n));
     }
+    if (stamp)
+        *stamp = ::fstat(fd, &st) == 0 ? stampOf(st) : std::string();
     ::close(fd);
     return true;
+}
+
+} // namespace
+
+bool readTextFile(const std::string& path, std::string& text, std::string& error)
+{
+    return readWholeFile(path, text, nullptr, error);
 }
 
 bool writeTextFileAtomically(const std::string& path, const std::string& text, std::string& error)
@@ -165,15 +187,11 @@ std::string StateStore::stamp() const
     struct stat st;
     if (::stat(path_.c_str(), &st) != 0)
         return {};
-    return std::to_string(st.st_ino) + ":" + std::to_string(st.st_size) + ":"
-           + std::to_string(st.st_mtim.tv_sec) + "." + std::to_string(st.st_mtim.tv_nsec);
+    return stampOf(st);
 }
 
-bool StateStore::readFile(San& out, std::string& error) const
+bool StateStore::parse(const std::string& text, San& out, std::string& error) const
 {
-    std::string text;
-    if (!readTextFile(path_, text, error))
-        return false;
     return scenarioFromText(text, "simulator state file \"" + path_ + "\"", out, error);
 }
 
@@ -200,22 +218,50 @@ bool StateStore::read(San& out, std::string& error)
 {
     // The file is only ever replaced by rename, so a plain read is a whole
     // snapshot; no lock is needed once the file exists.
-    return ensureExists(error) && readFile(out, error);
+    std::string text;
+    return ensureExists(error) && readTextFile(path_, text, error) && parse(text, out, error);
+}
+
+bool StateStore::read(Snapshot& out, std::string& error)
+{
+    return ensureExists(error) && readWholeFile(path_, out.text, &out.stamp, error) && parse(out.text, out.san, error);
 }
 
 bool StateStore::update(const std::function<bool(San&)>& change, std::string& error)
+{
+    return update(change, error, nullptr, nullptr);
+}
+
+bool StateStore::update(const std::function<bool(San&)>& change, std::string& error, const Snapshot* base,
+                        Snapshot* written)
 {
     if (!ensureExists(error))
         return false;
     std::unique_ptr<FileLock> lock;
     if (!lockState(path_, lock, error))
         return false;
+    // Comparing the text, not the stamp, keeps a stale base out even when a
+    // new file happens to get the old one's inode, size and time.
+    std::string text;
+    if (!readTextFile(path_, text, error))
+        return false;
     San san;
-    if (!readFile(san, error))
+    if (base && text == base->text)
+        san = base->san;
+    else if (!parse(text, san, error))
         return false;
     if (!change(san))
         return true;
-    return writeFile(san, error);
+    text = scenarioToText(san);
+    if (!writeTextFileAtomically(path_, text, error))
+        return false;
+    std::string rule;
+    if (written && validateSan(san, rule)) {
+        written->stamp = stamp();
+        written->text = std::move(text);
+        written->san = std::move(san);
+    }
+    return true;
 }
 
 bool StateStore::replace(const San& san, std::string& error)

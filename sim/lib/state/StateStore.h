@@ -11,6 +11,14 @@
 
 namespace sim {
 
+// The state as a process last saw it: the exact text of the file, the file's
+// stamp (see StateStore::stamp) and the SAN that the text holds.
+struct Snapshot {
+    std::string text;
+    std::string stamp;
+    San san;
+};
+
 class StateStore {
 public:
     explicit StateStore(std::string path);
@@ -23,11 +31,22 @@ public:
     // A consistent snapshot; the default SAN is written first if there is no
     // state yet. False with a message naming the file on any trouble.
     bool read(San& out, std::string& error);
+    // The same, with the text and the stamp of exactly the file read.
+    bool read(Snapshot& out, std::string& error);
 
     // Lock, read, apply, write. `change` returns false to leave the file as it
     // was (its own refusal); the store then returns true, since nothing failed
     // on its side. A store failure is reported by false and `error`.
     bool update(const std::function<bool(San&)>& change, std::string& error);
+    // The same, without parsing what the caller already has: when the file
+    // still holds exactly `base->text`, `change` gets a copy of `base->san`
+    // (which may have been brought forward by rules::settle, never back).
+    // When the change is written, `written` receives the new state with the
+    // stamp taken under the lock, so that it can serve as the next snapshot.
+    // `written` is left alone when nothing was written, or when the written
+    // SAN breaks a rule of the model (a fresh read would refuse it).
+    bool update(const std::function<bool(San&)>& change, std::string& error, const Snapshot* base,
+                Snapshot* written);
 
     // Replace the state with `san` (reset).
     bool replace(const San& san, std::string& error);
@@ -38,7 +57,7 @@ public:
 
 private:
     bool ensureExists(std::string& error);
-    bool readFile(San& out, std::string& error) const;
+    bool parse(const std::string& text, San& out, std::string& error) const;
     bool writeFile(const San& san, std::string& error) const;
 
     std::string path_;
