@@ -3,6 +3,7 @@
 #include <cctype>
 #include <cstdarg>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -21,6 +22,25 @@ std::string formatted(const char* format, ...)
         return std::string();
     }
     return std::string(buffer, static_cast<size_t>(n) < sizeof buffer ? n : sizeof buffer - 1);
+}
+
+// Names and identifiers are written on every line of the LUN and port
+// listings; writing their digits directly spares a format parse per call.
+constexpr char kUpperHexDigits[] = "0123456789ABCDEF";
+
+// Each byte as two upper-case digits, a dash between groups of `group` bytes.
+std::string hexBytesText(const unsigned char* bytes, int count, int group)
+{
+    std::string text;
+    text.reserve(static_cast<size_t>(count > 0 ? count * 3 : 0));
+    for (int i = 0; i < count; ++i) {
+        if (i > 0 && i % group == 0) {
+            text += '-';
+        }
+        text += kUpperHexDigits[bytes[i] >> 4];
+        text += kUpperHexDigits[bytes[i] & 15];
+    }
+    return text;
 }
 
 bool isHexDigit(char c)
@@ -178,12 +198,21 @@ PBase::VPGROUP_INDEX PBase::convertIntToVpIndex(int index)
     return (index >= VPGROUP_NONE && index <= VPGROUP_4) ? static_cast<VPGROUP_INDEX>(index) : VPGROUP_UNKNOWN;
 }
 
-std::string PBase::numberToText(int value) { return formatted("%d", value); }
+std::string PBase::numberToText(int value) { return std::to_string(value); }
 std::string PBase::numberToHexText(unsigned int value) { return formatted("%x", value); }
-std::string PBase::i64NumberToText(long long value) { return formatted("%lld", value); }
-std::string PBase::ui64NumberToText(unsigned long long value) { return formatted("%llu", value); }
-std::string PBase::ui64NumberToHexText(unsigned long long value) { return formatted("%llX", value); }
-std::string PBase::byteToHexText(unsigned char value) { return formatted("%02X", value); }
+std::string PBase::i64NumberToText(long long value) { return std::to_string(value); }
+std::string PBase::ui64NumberToText(unsigned long long value) { return std::to_string(value); }
+std::string PBase::ui64NumberToHexText(unsigned long long value)
+{
+    char digits[16];
+    size_t count = 0;
+    do {
+        digits[count++] = kUpperHexDigits[value & 15];
+        value >>= 4;
+    } while (value != 0);
+    return std::string(std::make_reverse_iterator(digits + count), std::make_reverse_iterator(digits));
+}
+std::string PBase::byteToHexText(unsigned char value) { return hexBytesText(&value, 1, 1); }
 std::string PBase::floatToText(float value) { return formatted("%f", static_cast<double>(value)); }
 std::string PBase::yesOrNoToText(bool value) { return value ? "Yes" : "No"; }
 std::string PBase::upOrDownToText(bool value) { return value ? "Up" : "Down"; }
@@ -192,17 +221,17 @@ std::string PBase::enableToText(bool value) { return value ? "Enabled" : "Disabl
 
 std::string PBase::wwnameToText(const unsigned char* n)
 {
-    return formatted("%02X%02X-%02X%02X-%02X%02X-%02X%02X", n[0], n[1], n[2], n[3], n[4], n[5], n[6], n[7]);
+    return hexBytesText(n, 8, 2);
 }
 
 std::string PBase::wwnameToText_single_bytes(const unsigned char* n)
 {
-    return formatted("%02X-%02X-%02X-%02X-%02X-%02X-%02X-%02X", n[0], n[1], n[2], n[3], n[4], n[5], n[6], n[7]);
+    return hexBytesText(n, 8, 1);
 }
 
 std::string PBase::portIdToText(const unsigned char* id)
 {
-    return formatted("%02X-%02X-%02X", id[0], id[1], id[2]);
+    return hexBytesText(id, 3, 1);
 }
 
 std::string PBase::portIdToText(unsigned char* id, unsigned int)
@@ -237,14 +266,7 @@ std::string PBase::wwulnToText(const unsigned char* data, int length, WWULN_CODE
     if (codeSet == WWULN_CODE_SET_TEXT) {
         return std::string(reinterpret_cast<const char*>(data));
     }
-    std::string text;
-    for (int i = 0; i < length; ++i) {
-        if (i > 0 && i % 2 == 0) {
-            text += "-";
-        }
-        text += byteToHexText(data[i]);
-    }
-    return text;
+    return hexBytesText(data, length, 2);
 }
 
 bool PBase::textToWwname(unsigned int& count, unsigned char* out, unsigned long outSize, const std::string& text)
@@ -372,7 +394,8 @@ std::string PBase::longlongToMByteText(unsigned long long value)
     }
     std::string text = numberToText(static_cast<int>(whole));
     if (next > 102) {
-        text += "." + numberToText(static_cast<int>((next * 100) >> 10));
+        text += '.';
+        text += numberToText(static_cast<int>((next * 100) >> 10));
     }
     return text + unit;
 }
