@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using namespace sim;
 
 TEST(ScenarioTest, DefaultSanSurvivesARoundTrip)
@@ -102,4 +104,53 @@ TEST(ScenarioTest, AgentAddressesAreNumericAndCanonical)
     san.hosts[1].agent = "0:0::1";
     EXPECT_FALSE(validateSan(san, error));
     EXPECT_EQ(error, "host agent \"0:0::1\" must be written \"::1\"");
+}
+
+// Each rule of the model, with the words it is reported in.
+TEST(ScenarioTest, EveryRuleOfTheModelIsNamed)
+{
+    struct Case {
+        std::function<void(San&)> breakRule;
+        std::string message;
+    };
+    const std::string first = "adapter " + adapterIdText(defaultSan().adapters[0].id.value);
+    const std::string second = "adapter " + adapterIdText(defaultSan().adapters[1].id.value);
+    const std::vector<Case> cases = {
+        {[](San& s) { s.hosts.push_back(s.hosts[0]); }, "host \"\" is defined twice"},
+        {[](San& s) { s.adapters[0].host = "127.0.9.9"; },
+         first + " names host \"127.0.9.9\", which is not defined"},
+        {[](San& s) { s.adapters[1].device = s.adapters[0].device; },
+         second + " uses device 0 twice on its host"},
+        {[](San& s) { s.adapters[0].state = 3; }, first + " has state 3 (1 online, 2 offline)"},
+        {[](San& s) { s.adapters[0].ports.resize(5); }, first + " has more than 4 ports"},
+        {[](San& s) { s.adapters[0].drives.resize(65); }, first + " has more than 64 drives"},
+        {[](San& s) { s.adapters[0].drives.resize(1); s.adapters[0].drives[0].id = "d0"; s.adapters[0].drives[0].smart.resize(33); },
+         first + " drive d0 has more than 32 SMART attributes"},
+        {[](San& s) { s.clusters.push_back(s.clusters[0]); s.clusters.back().members.clear(); },
+         "cluster \"" + defaultSan().clusters[0].id + "\" is defined twice"},
+        {[](San& s) { s.clusters[0].members.push_back(AdapterId{0xABC}); },
+         "cluster \"" + defaultSan().clusters[0].id + "\" names unknown adapter ABC"},
+        {[](San& s) { s.targets.push_back(s.targets[0]); }, "target \"" + defaultSan().targets[0].name + "\" is defined twice"},
+        {[](San& s) { s.luns[0].wwuln.clear(); }, "a LUN has no wwuln"},
+        {[](San& s) { s.luns[1].wwuln = s.luns[0].wwuln; }, "LUN \"" + defaultSan().luns[0].wwuln + "\" is defined twice"},
+        {[](San& s) { s.luns[0].codeSet = 3; }, "LUN \"" + defaultSan().luns[0].wwuln + "\" has codeSet 3 (1 binary, 2 text)"},
+        {[](San& s) { s.luns[1].paths.push_back(s.luns[0].paths[0]); },
+         "LUN \"" + defaultSan().luns[1].wwuln + "\" reuses LUN number " + std::to_string(defaultSan().luns[0].paths[0].lun)
+             + " of target \"" + defaultSan().luns[0].paths[0].target + "\""},
+        {[](San& s) { s.luns[0].cached = true; s.luns[0].cache.adapter = AdapterId{0xABC}; },
+         "LUN \"" + defaultSan().luns[0].wwuln + "\" is cached on unknown adapter ABC"},
+        {[](San& s) { s.luns[0].cache.lockedRanges.resize(17); },
+         "LUN \"" + defaultSan().luns[0].wwuln + "\" has more than 16 locked ranges"},
+        {[](San& s) { s.luns[0].local = true; s.luns[0].localInfo.owner = AdapterId{0xABC}; },
+         "LUN \"" + defaultSan().luns[0].wwuln + "\" belongs to unknown adapter ABC"},
+    };
+    std::string error;
+    ASSERT_TRUE(validateSan(defaultSan(), error)) << error;
+    for (const Case& c : cases) {
+        San san = defaultSan();
+        c.breakRule(san);
+        error.clear();
+        EXPECT_FALSE(validateSan(san, error)) << c.message;
+        EXPECT_EQ(error, c.message);
+    }
 }

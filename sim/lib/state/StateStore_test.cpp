@@ -89,9 +89,98 @@ TEST_F(StateStoreTest, RefusedChangeLeavesTheFileUntouched)
     EXPECT_EQ(san.name, "changed");
 }
 
+TEST_F(StateStoreTest, SnapshotReadHasTheTextAndStampOfTheFile)
+{
+    StateStore store(path);
+    Snapshot snapshot;
+    std::string error;
+    ASSERT_TRUE(store.read(snapshot, error)) << error;
+    EXPECT_EQ(snapshot.text, fileText(path));
+    EXPECT_EQ(snapshot.stamp, store.stamp());
+    EXPECT_EQ(scenarioToText(snapshot.san), snapshot.text);
+}
+
+TEST_F(StateStoreTest, ChangeStartsFromTheSnapshotWhileTheFileHoldsItsText)
+{
+    StateStore store(path);
+    Snapshot base;
+    std::string error;
+    ASSERT_TRUE(store.read(base, error)) << error;
+    // Only a change that starts from the snapshot sees this name.
+    base.san.name = "from the snapshot";
+    const u64 before = base.san.nextLocalLun;
+    std::string seen;
+    Snapshot written;
+    ASSERT_TRUE(store.update([&](San& san) { seen = san.name; san.nextLocalLun = 77; return true; }, error, &base,
+                             &written)) << error;
+    EXPECT_EQ(seen, "from the snapshot");
+    EXPECT_EQ(base.san.nextLocalLun, before);   // the caller's snapshot is left as it was
+    EXPECT_EQ(written.text, fileText(path));
+    EXPECT_EQ(written.stamp, store.stamp());
+    EXPECT_EQ(written.san.nextLocalLun, 77u);
+    EXPECT_EQ(scenarioToText(written.san), written.text);
+}
+
+TEST_F(StateStoreTest, ChangeReadsTheFileWhenItNoLongerHoldsTheSnapshotText)
+{
+    StateStore store(path);
+    Snapshot base;
+    std::string error;
+    ASSERT_TRUE(store.read(base, error)) << error;
+    base.san.name = "from the snapshot";
+    ASSERT_TRUE(StateStore(path).update([](San& san) { san.name = "by another process"; return true; }, error));
+    std::string seen;
+    Snapshot written;
+    ASSERT_TRUE(store.update([&](San& san) { seen = san.name; return true; }, error, &base, &written)) << error;
+    EXPECT_EQ(seen, "by another process");
+    EXPECT_EQ(written.san.name, "by another process");
+
+    // Same length, other text: still read.
+    ASSERT_TRUE(store.read(base, error)) << error;
+    base.san.name = "from the snapshot";
+    std::string text = fileText(path);
+    text.replace(text.find("by another process"), 18, "by another PROCESS");
+    ASSERT_TRUE(writeTextFileAtomically(path, text, error)) << error;
+    ASSERT_TRUE(store.update([&](San& san) { seen = san.name; return false; }, error, &base, nullptr)) << error;
+    EXPECT_EQ(seen, "by another PROCESS");
+}
+
+TEST_F(StateStoreTest, NothingIsHandedBackWhenNothingWasWrittenOrItBreaksARule)
+{
+    StateStore store(path);
+    Snapshot base;
+    std::string error;
+    ASSERT_TRUE(store.read(base, error)) << error;
+    Snapshot written;
+    ASSERT_TRUE(store.update([](San& san) { san.name = "refused"; return false; }, error, &base, &written));
+    EXPECT_TRUE(written.stamp.empty());
+    EXPECT_TRUE(written.text.empty());
+
+    ASSERT_TRUE(store.update([](San& san) { san.adapters[1].id = san.adapters[0].id; return true; }, error, &base,
+                             &written)) << error;
+    EXPECT_TRUE(written.stamp.empty());
+    EXPECT_FALSE(store.read(base, error));   // as a fresh read says
+    EXPECT_NE(error.find("defined twice"), std::string::npos) << error;
+}
+
+TEST_F(StateStoreTest, BrokenFileIsNotPassedOverByASnapshot)
+{
+    StateStore store(path);
+    Snapshot base;
+    std::string error;
+    ASSERT_TRUE(store.read(base, error)) << error;
+    std::ofstream(path) << "{ broken";
+    EXPECT_FALSE(store.update([](San&) { return true; }, error, &base, nullptr));
+    EXPECT_NE(error.find(path), std::string::npos) << error;
+    EXPECT_EQ(fileText(path), "{ broken");
+}
+
+namespace {
+
 // Eight processes toggle caching of their own LUN on one adapter, and log
-// each toggle there; every toggle must survive.
-TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
+// each toggle there; every toggle must survive. With `snapshots`, each
+// process starts every change from what it wrote last, as a script does.
+void runConcurrentToggles(const std::string& path, bool snapshots)
 {
     constexpr int kProcesses = 8;
     constexpr int kToggles = 11;
@@ -110,8 +199,14 @@ TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
             try {
             StateStore store(path);
             PathRef lun{start.luns[static_cast<size_t>(p)].paths[0].target, start.luns[static_cast<size_t>(p)].paths[0].lun, 1};
+            Snapshot known;
+            std::string err;
+            if (snapshots && !store.read(known, err)) {
+                fprintf(stderr, "child %d: %s\n", p, err.c_str());
+                _exit(1);
+            }
             for (int i = 0; i < kToggles; ++i) {
-                std::string err;
+                Snapshot written;
                 bool ok = store.update([&](San& san) {
                     rules::CacheRequest req;
                     req.mode = (i % 2 == 0) ? 1 : 0;
@@ -119,11 +214,13 @@ TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
                         return false;
                     rules::appendLog(*findAdapter(san, adapter), 1700000000, 5, "test", "toggle");
                     return true;
-                }, err);
+                }, err, snapshots ? &known : nullptr, &written);
                 if (!ok) {
                     fprintf(stderr, "child %d: %s\n", p, err.c_str());
                     _exit(1);
                 }
+                if (!written.stamp.empty())
+                    known = std::move(written);
             }
             } catch (const std::exception& e) {
                 fprintf(stderr, "child %d: %s\n", p, e.what());
@@ -155,6 +252,18 @@ TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
     for (int p = 0; p < kProcesses; ++p)
         EXPECT_EQ(end.luns[static_cast<size_t>(p)].cached, kToggles % 2 == 1) << "LUN " << p;
     EXPECT_GT(reads, 0);
+}
+
+} // namespace
+
+TEST_F(StateStoreTest, ConcurrentTogglesAreNeverLost)
+{
+    runConcurrentToggles(path, false);
+}
+
+TEST_F(StateStoreTest, ConcurrentTogglesFromSnapshotsAreNeverLost)
+{
+    runConcurrentToggles(path, true);
 }
 
 // A writer killed at any moment leaves a state that reads.
