@@ -255,7 +255,7 @@ int SimAdapter::gatherLunsOf(const San& san, const Adapter& a, SimTarget& target
         return code::ObjectNotFound;
     std::vector<VisiblePath> paths = visiblePaths(san, a, *t);
     for (const VisiblePath& p : paths) {
-        PLunID id = lunId(*p.target, *p.path);
+        PLunID id = lunId(target.id, *p.path);
         target.luns.addUnique(id);
         SimLun* held = static_cast<SimLun*>(luns_.find(id));
         if (!held) {

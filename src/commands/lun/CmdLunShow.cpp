@@ -89,7 +89,9 @@ int CmdLunShow::showThroughOneAdapter(std::string& err)
     if (ids.empty() && !outDisplay(text, err))
         return ZEKCLI_OUTPUT_FAIL;
 
+    // Records are large: grown one by one they would be copied over and over.
     std::vector<KLunInfo> infos;
+    infos.reserve(ids.size());
     LunOutcomeTally tally;
     for (PLunID const& id : ids) {
         int const rc = showOneLun(addressed.adapter, id, text, infos, err);
@@ -110,10 +112,12 @@ int CmdLunShow::showThroughAdapterGroup(std::string& err)
     PIpAddress agent;
     if (int const rc = scanAdapterGroupLuns(*this, agent, err))
         return rc;
+    std::vector<KAdapterGroupExtendedLunInfo> const& groups = g_pHbaMgmtApi->getAdapterGroupLuns()->items;
     std::vector<KLunInfo> infos;
+    infos.reserve(groups.size());
     LunOutcomeTally tally;
     std::string text;
-    for (KAdapterGroupExtendedLunInfo const& group : g_pHbaMgmtApi->getAdapterGroupLuns()->items) {
+    for (KAdapterGroupExtendedLunInfo const& group : groups) {
         text += group.displayHeaderText(agent);
         if (HIsaAdapter* const adapter = adapterToAsk(group))
             tally.record(showOneLun(adapter, group.lunId, text, infos, err));
