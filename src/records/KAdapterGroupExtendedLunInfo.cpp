@@ -117,15 +117,22 @@ void KAdapterGroupExtendedLunInfo::addInfoForOneLun(unsigned long long adapterId
 
 std::string KAdapterGroupExtendedLunInfo::displayHeaderText(const PIpAddress& agent) const
 {
-    const std::string agentPart = agent.getType() == 0 ? "" : "-agent=" + agent.displayText() + " ";
+    // Every line starts alike; it is made once, as a LUN seen by many
+    // adapters has many lines and a SAN many LUNs.
+    const std::string lineStart =
+        agent.getType() == 0 ? "    -zek=" : "    -agent=" + agent.displayText() + " -zek=";
     std::string text = "Adapters with access to this LUN:\n";
-    if (bCached)
-        text += "    " + agentPart + "-zek=" + KIsaAdapterPath::ui64numberToHexText(ui64CachingAdapter) +
-                "  [Caching Adapter]\n";
+    if (bCached) {
+        text += lineStart;
+        text += KIsaAdapterPath::ui64numberToHexText(ui64CachingAdapter);
+        text += "  [Caching Adapter]\n";
+    }
     const unsigned int count = nonCachedCount();
-    for (unsigned int i = 0; i < count; ++i)
-        text += "    " + agentPart + "-zek=" + KIsaAdapterPath::ui64numberToHexText(ui64NonCachedAdapters[i]) +
-                "\n";
+    for (unsigned int i = 0; i < count; ++i) {
+        text += lineStart;
+        text += KIsaAdapterPath::ui64numberToHexText(ui64NonCachedAdapters[i]);
+        text += '\n';
+    }
     return text;
 }
 
