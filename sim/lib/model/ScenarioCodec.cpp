@@ -168,9 +168,15 @@ public:
         visitFieldPairs([&](const char* name, const auto& v, const auto& d) {
             using F = std::remove_cvref_t<decltype(v)>;
             bool header = keepHeader && (std::string_view(name) == "format" || std::string_view(name) == "version");
+            if (count == slots.size()) {
+                ok_ = false;    // a struct with more fields than slots: let the general path write it
+                return;
+            }
             slots[count++] = Slot{&v, &d, &Writer::emitErased<F>, header || !same(v, d)};
         }, value, defaults);
         const FieldOrder& order = sortedFieldOrder<T>();
+        if (count != order.positions.size())
+            return;
         bool first = true;
         for (unsigned char position : order.positions) {
             const Slot& slot = slots[position];
@@ -379,7 +385,7 @@ public:
             bool found = false, ok = false;
             unsigned position = 0;
             visitFields([&](const char* name, auto& field) {
-                if (!found && key == name) {
+                if (!found && key == name && position < 64) {   // one bit per field
                     found = true;
                     std::uint64_t bit = std::uint64_t{1} << position;
                     ok = !(seen & bit) && value(field);
