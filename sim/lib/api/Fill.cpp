@@ -507,11 +507,10 @@ void fillLogEntry(const LogRecord& r, int number, KLogEntry& out)
     out.time.initFromPosixTime(static_cast<long>(r.time));
 }
 
-void fillLunPathInfo(const San& san, const Target& t, const LunPath& p, KLunPathInfo& out)
+void fillLunPathInfo(const Target& t, int pathStatus, KLunPathInfo& out)
 {
-    (void)san;
     out.init();
-    out.ePathStatus = static_cast<KLunPathInfo::LUNPATH_STATUS_TYPE>(t.online ? p.status : 1);
+    out.ePathStatus = static_cast<KLunPathInfo::LUNPATH_STATUS_TYPE>(t.online ? pathStatus : 1);
     if (t.protocol == 2) {
         out.eTargetType = KLunPathInfo::TARGET_TYPE_ISCSI;
         copyText(out.iscsiPath.szTargetName, sizeof out.iscsiPath.szTargetName, t.iscsiName);
@@ -524,6 +523,36 @@ void fillLunPathInfo(const San& san, const Target& t, const LunPath& p, KLunPath
         copyWwn(out.fcPath.ui8Wwnn, t.wwnn);
         copyPortId(out.fcPath.ui8PortId, t.portId, 4);
     }
+}
+
+std::string LunPathTexts::tableText(const Lun& lun)
+{
+    std::string text = "    LUN Path Info:\n";
+    for (const LunPath& way : lun.paths)
+        if (const Target* t = reachedTarget(way.target))
+            text += wayText(*t, way.status);
+    return text;
+}
+
+const Target* LunPathTexts::reachedTarget(const std::string& name)
+{
+    auto [at, fresh] = reached_.emplace(name, nullptr);
+    if (fresh) {
+        const Target* t = findTarget(san_, name);
+        at->second = t && adapterSeesTarget(san_, viewer_, *t) ? t : nullptr;
+    }
+    return at->second;
+}
+
+const std::string& LunPathTexts::wayText(const Target& t, int pathStatus)
+{
+    auto [at, fresh] = ways_.emplace(std::make_pair(&t, pathStatus), std::string());
+    if (fresh) {
+        KLunPathInfo info;
+        fillLunPathInfo(t, pathStatus, info);
+        at->second = info.displayText();
+    }
+    return at->second;
 }
 
 } // namespace sim

@@ -3,7 +3,9 @@
 
 #include "model/San.h"
 
+#include <map>
 #include <string>
+#include <utility>
 
 class KIsaAdapterInfo;
 class KLunInfo;
@@ -48,7 +50,27 @@ void fillCacheStatistics(const San& san, const Adapter& a, long long now, KCache
 void fillHostPcieInfo(const San& san, const Adapter& a, long long now, KHostPcieInfo& out);
 void fillCacheInfoList(const San& san, const Adapter& a, long long now, KCacheInfoList& out);
 void fillLogEntry(const LogRecord& r, int number, KLogEntry& out);
-void fillLunPathInfo(const San& san, const Target& t, const LunPath& p, KLunPathInfo& out);
+// One way to a LUN: its target, and the status the path has while the
+// target is online.
+void fillLunPathInfo(const Target& t, int pathStatus, KLunPathInfo& out);
+
+// The path table's text of a LUN: every way the adapter reaches it. A way's
+// text depends only on its target and its status, so over a walk of many
+// LUNs through few targets each is made once.
+class LunPathTexts {
+public:
+    LunPathTexts(const San& san, const Adapter& viewer) : san_(san), viewer_(viewer) {}
+    std::string tableText(const Lun& lun);
+
+private:
+    const Target* reachedTarget(const std::string& name);
+    const std::string& wayText(const Target& t, int pathStatus);
+
+    const San& san_;
+    const Adapter& viewer_;
+    std::map<std::string, const Target*> reached_;     // null: not reached
+    std::map<std::pair<const Target*, int>, std::string> ways_;
+};
 
 // Copies text into a fixed field, always leaving it terminated.
 void copyText(char* field, size_t size, const std::string& text);

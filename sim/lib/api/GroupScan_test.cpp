@@ -143,21 +143,3 @@ TEST_F(AdapterGroupScanTest, NoAdaptersGiveNoRecords)
     San empty;
     EXPECT_TRUE(scanned(empty, {}).empty());
 }
-
-TEST(FillLunStandingTest, AReusedRecordStandsAsAFreshOneForEveryAdapterAndLun)
-{
-    setenv("HBASIM_TIME", "1795000000", 1);
-    San san = defaultSan();
-    KLunInfo reused;
-    for (const Adapter& a : san.adapters)
-        for (const Lun& l : san.luns) {
-            KLunInfo full;
-            fillLunInfo(san, l, a, full);
-            fillLunStanding(san, l, a, reused);
-            EXPECT_EQ(reused.isLunInfoValid(), full.isLunInfoValid());
-            EXPECT_EQ(reused.eCacheState(), full.eCacheState());
-            EXPECT_EQ(reused.ui64ClusterCacheAdapterPrimary(), full.ui64ClusterCacheAdapterPrimary());
-            EXPECT_EQ(reused.eMirrorState(), full.eMirrorState());
-            EXPECT_EQ(reused.ui32LunState, full.ui32LunState);
-        }
-}

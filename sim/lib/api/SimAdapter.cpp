@@ -13,7 +13,6 @@
 #include "records/KFcInfo.h"
 #include "records/KHostPcieInfo.h"
 #include "records/KLunIoStatistics.h"
-#include "records/KLunPathInfo.h"
 #include "records/KLunReservationInfo.h"
 #include "records/KMemoryInfo.h"
 #include "records/KNvdimmInfo.h"
@@ -262,6 +261,7 @@ int SimAdapter::gatherLunsOf(const San& san, const Adapter& a, SimTarget& target
     if (!t)
         return code::ObjectNotFound;
     std::vector<VisiblePath> paths = visiblePaths(san, a, *t);
+    LunPathTexts pathTexts(san, a);
     for (const VisiblePath& p : paths) {
         PLunID id = lunId(target.id, *p.path);
         target.luns.addUnique(id);
@@ -273,23 +273,14 @@ int SimAdapter::gatherLunsOf(const San& san, const Adapter& a, SimTarget& target
             held = luns_.add(std::move(fresh));
         }
         fillLun(*held, san, a, p);
-        // The path table tells every way this adapter reaches the LUN.
-        std::string text = "    LUN Path Info:\n";
-        for (const LunPath& other : p.lun->paths) {
-            const Target* ot = findTarget(san, other.target);
-            if (!ot || discoveryPorts(san, a, *ot).empty())
-                continue;
-            KLunPathInfo info;
-            fillLunPathInfo(san, *ot, other, info);
-            text += info.displayText();
-        }
         SimLunPathEntry* entry = static_cast<SimLunPathEntry*>(pathTable_.find(id));
         if (!entry) {
             auto fresh = std::make_unique<SimLunPathEntry>();
             fresh->id = id;
             entry = pathTable_.add(std::move(fresh));
         }
-        entry->text = text;
+        // The path table tells every way this adapter reaches the LUN.
+        entry->text = pathTexts.tableText(*p.lun);
     }
     return code::Ok;
 }
