@@ -32,11 +32,15 @@ bool hexToBytes(const std::string& hex, std::vector<unsigned char>& out)
     out.clear();
     if (hex.size() % 2)
         return false;
-    for (size_t i = 0; i < hex.size(); i += 2) {
-        int hi = hexValue(hex[i]), lo = hexValue(hex[i + 1]);
-        if (hi < 0 || lo < 0)
+    // Names are decoded for every LUN a walk passes: one allocation each.
+    out.resize(hex.size() / 2);
+    for (size_t i = 0; i < out.size(); ++i) {
+        int hi = hexValue(hex[2 * i]), lo = hexValue(hex[2 * i + 1]);
+        if (hi < 0 || lo < 0) {
+            out.resize(i);      // the bytes before the fault stay, as some callers pad them
             return false;
-        out.push_back(static_cast<unsigned char>(hi * 16 + lo));
+        }
+        out[i] = static_cast<unsigned char>(hi * 16 + lo);
     }
     return true;
 }

@@ -16,6 +16,8 @@
 namespace sim {
 
 // Hexadecimal digits to bytes; false on any other character or an odd count.
+// After a bad character `out` holds the bytes before it; after an odd count,
+// nothing.
 bool hexToBytes(const std::string& hex, std::vector<unsigned char>& out);
 std::string bytesToHex(const unsigned char* bytes, size_t length);
 

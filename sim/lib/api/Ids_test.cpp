@@ -76,3 +76,24 @@ TEST_F(WwulnIndexTest, TheFirstOfTwoEqualNamesIsFound)
     san.luns.push_back(san.luns[1]);
     EXPECT_EQ(findByName(index, san, san.luns[1]), &san.luns[1]);
 }
+
+TEST(HexToBytesTest, DigitsOfEitherCaseMakeBytes)
+{
+    std::vector<unsigned char> out = {9};
+    EXPECT_TRUE(hexToBytes("0aFF10", out));
+    EXPECT_EQ(out, (std::vector<unsigned char>{0x0A, 0xFF, 0x10}));
+    EXPECT_TRUE(hexToBytes("", out));
+    EXPECT_TRUE(out.empty());
+}
+
+TEST(HexToBytesTest, ABadDigitKeepsTheBytesBeforeItAndAnOddCountNone)
+{
+    std::vector<unsigned char> out;
+    EXPECT_FALSE(hexToBytes("0a1Z22", out));
+    EXPECT_EQ(out, (std::vector<unsigned char>{0x0A}));
+    EXPECT_FALSE(hexToBytes("Z0", out));
+    EXPECT_TRUE(out.empty());
+    out = {1, 2};
+    EXPECT_FALSE(hexToBytes("0a1", out));
+    EXPECT_TRUE(out.empty());
+}
