@@ -1,7 +1,9 @@
 #include "model/Rules.h"
 
+#include "model/Base64.h"
 #include "model/Codes.h"
 #include "model/Scenario.h"
+#include "model/ScenarioCodec.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -794,11 +796,22 @@ int storeFile(San& san, u64 adapter, const std::string& name, const std::string&
               long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
-        if (name.empty() || name.find('/') != std::string::npos || content.size() > 4 * 1024 * 1024)
+        // The name is a key of the JSON state, so it must be text; the
+        // content may be any bytes.
+        if (name.empty() || name.find('/') != std::string::npos || !codec::isUtf8(name)
+            || content.size() > 4 * 1024 * 1024)
             return code::InvalidArgument;
-        if (clearFirst)
+        if (clearFirst) {
             a.files.clear();
-        a.files[name] = content;
+            a.binaryFiles.clear();
+        }
+        if (codec::isUtf8(content)) {
+            a.files[name] = content;
+            a.binaryFiles.erase(name);
+        } else {
+            a.binaryFiles[name] = base64::encode(content);
+            a.files.erase(name);
+        }
         return code::Ok;
     });
 }
@@ -806,12 +819,20 @@ int storeFile(San& san, u64 adapter, const std::string& name, const std::string&
 int fetchFile(San& san, u64 adapter, const std::string& name, bool clearAfter, std::string& content, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
-        auto it = a.files.find(name);
-        if (it == a.files.end())
+        if (auto text = a.files.find(name); text != a.files.end()) {
+            content = text->second;
+            if (clearAfter)
+                a.files.erase(text);
+            return code::Ok;
+        }
+        auto binary = a.binaryFiles.find(name);
+        if (binary == a.binaryFiles.end())
             return code::ObjectNotFound;
-        content = it->second;
+        // A checked state holds only valid base64; one built by hand may not.
+        if (!base64::decode(binary->second, content))
+            return code::Failure;
         if (clearAfter)
-            a.files.erase(it);
+            a.binaryFiles.erase(binary);
         return code::Ok;
     });
 }

@@ -226,6 +226,107 @@ TEST_F(RulesTest, PasswordMustMatch)
     EXPECT_EQ(findAdapter(san, kDev0)->password, "new");
 }
 
+TEST_F(RulesTest, TextFilesStayReadable)
+{
+    const std::string text = "version=4.3\ncaf\xc3\xa9\n";
+    ASSERT_EQ(rules::storeFile(san, kDev0, "notes.txt", text, false, kNow), code::Ok);
+    const Adapter& a = *findAdapter(san, kDev0);
+    EXPECT_EQ(a.files.at("notes.txt"), text);
+    EXPECT_TRUE(a.binaryFiles.empty());
+    std::string back;
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "notes.txt", false, back, kNow), code::Ok);
+    EXPECT_EQ(back, text);
+}
+
+TEST_F(RulesTest, BinaryFilesKeepEveryByte)
+{
+    std::string image;
+    for (int b = 255; b >= 0; --b)
+        image += static_cast<char>(b);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "fw.bin", image, false, kNow), code::Ok);
+    const Adapter& a = *findAdapter(san, kDev0);
+    EXPECT_FALSE(a.files.count("fw.bin"));
+    ASSERT_TRUE(a.binaryFiles.count("fw.bin"));
+    EXPECT_EQ(a.binaryFiles.at("fw.bin").substr(0, 8), "//79/Pv6");
+    std::string back;
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "fw.bin", false, back, kNow), code::Ok);
+    EXPECT_EQ(back, image);
+    // A lone byte that cannot start UTF-8 is enough to make a file binary.
+    ASSERT_EQ(rules::storeFile(san, kDev0, "one", "abc\x80", false, kNow), code::Ok);
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "one", false, back, kNow), code::Ok);
+    EXPECT_EQ(back, "abc\x80");
+    EXPECT_EQ(a.binaryFiles.at("one"), "YWJjgA==");
+}
+
+TEST_F(RulesTest, ReplacingAFileMovesItBetweenTextAndBinary)
+{
+    const Adapter& a = *findAdapter(san, kDev0);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "f", "plain", false, kNow), code::Ok);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "f", "\xff\xfe", false, kNow), code::Ok);
+    EXPECT_FALSE(a.files.count("f"));
+    EXPECT_EQ(a.binaryFiles.at("f"), "//4=");
+    std::string back;
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "f", false, back, kNow), code::Ok);
+    EXPECT_EQ(back, "\xff\xfe");
+    ASSERT_EQ(rules::storeFile(san, kDev0, "f", "plain again", false, kNow), code::Ok);
+    EXPECT_FALSE(a.binaryFiles.count("f"));
+    EXPECT_EQ(a.files.at("f"), "plain again");
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "f", false, back, kNow), code::Ok);
+    EXPECT_EQ(back, "plain again");
+}
+
+TEST_F(RulesTest, ClearingEmptiesBothKindsOfFiles)
+{
+    const Adapter& a = *findAdapter(san, kDev0);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "t", "text", false, kNow), code::Ok);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "b", "\x01\xc0", false, kNow), code::Ok);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "new", "\xc0", true, kNow), code::Ok);
+    EXPECT_TRUE(a.files.empty());
+    EXPECT_EQ(a.binaryFiles.size(), 1u);
+    std::string back;
+    EXPECT_EQ(rules::fetchFile(san, kDev0, "t", false, back, kNow), code::ObjectNotFound);
+    EXPECT_EQ(rules::fetchFile(san, kDev0, "b", false, back, kNow), code::ObjectNotFound);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "t", "text", true, kNow), code::Ok);
+    EXPECT_TRUE(a.binaryFiles.empty());
+    EXPECT_EQ(a.files.size(), 1u);
+}
+
+TEST_F(RulesTest, FetchingWithClearRemovesTheFileWhereverItIs)
+{
+    const Adapter& a = *findAdapter(san, kDev0);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "t", "text", false, kNow), code::Ok);
+    ASSERT_EQ(rules::storeFile(san, kDev0, "b", "\xfa", false, kNow), code::Ok);
+    std::string back;
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "b", true, back, kNow), code::Ok);
+    EXPECT_EQ(back, "\xfa");
+    EXPECT_TRUE(a.binaryFiles.empty());
+    ASSERT_EQ(rules::fetchFile(san, kDev0, "t", true, back, kNow), code::Ok);
+    EXPECT_EQ(back, "text");
+    EXPECT_TRUE(a.files.empty());
+    EXPECT_EQ(rules::fetchFile(san, kDev0, "b", false, back, kNow), code::ObjectNotFound);
+}
+
+TEST_F(RulesTest, FileNamesMustBeTextAndContentBounded)
+{
+    EXPECT_EQ(rules::storeFile(san, kDev0, "", "x", false, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::storeFile(san, kDev0, "a/b", "x", false, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::storeFile(san, kDev0, "\xff.bin", "x", false, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::storeFile(san, kDev0, "big", std::string(4 * 1024 * 1024 + 1, '\xff'), false, kNow),
+              code::InvalidArgument);
+    const Adapter& a = *findAdapter(san, kDev0);
+    EXPECT_TRUE(a.files.empty());
+    EXPECT_TRUE(a.binaryFiles.empty());
+    EXPECT_EQ(rules::storeFile(san, kDev0, "caf\xc3\xa9", "x", false, kNow), code::Ok);
+}
+
+TEST_F(RulesTest, DamagedBinaryFileIsAFailureNotACrash)
+{
+    findAdapter(san, kDev0)->binaryFiles["bad"] = "no base64!";
+    std::string back;
+    EXPECT_EQ(rules::fetchFile(san, kDev0, "bad", true, back, kNow), code::Failure);
+    EXPECT_TRUE(findAdapter(san, kDev0)->binaryFiles.count("bad"));
+}
+
 TEST(CodesTest, TextsAndFailureRule)
 {
     EXPECT_EQ(code::text(185), "The LUN is cached on another adapter");

@@ -154,7 +154,8 @@ struct Adapter {
     u64 cachePoolBytes = 0;         // part of the configured drives given to the cache
     Health health;
     Nvdimm nvdimm;
-    std::map<std::string, std::string> files;   // adapter file store
+    std::map<std::string, std::string> files;   // adapter file store: files whose content is UTF-8 text
+    std::map<std::string, std::string> binaryFiles;  // the other files, base64-encoded; a name is in one map only
     std::vector<LogRecord> log;
     long long bootTime = 0;         // restart and uptime
     long long restartUntil = 0;     // not answering until then

@@ -26,8 +26,8 @@
 #define SIM_FIELDS_Fault adapter, operation, code, once, firstError
 #define SIM_FIELDS_Adapter id, host, device, viaDevice, state, productName, symbolicName, serialNumber, hwVersion, \
     swVersion, ubootVersion, biosVersion, efiVersion, capabilities, password, autoCluster, ports, drives, \
-    cachePoolBytes, health, nvdimm, files, log, bootTime, restartUntil, restartPolls, statsClearedAt, needsRestart, \
-    memoryScale
+    cachePoolBytes, health, nvdimm, files, binaryFiles, log, bootTime, restartUntil, restartPolls, statsClearedAt, \
+    needsRestart, memoryScale
 #define SIM_FIELDS_Cluster id, hostClusterType, primary, secondary, members
 #define SIM_FIELDS_Target name, protocol, wwpn, wwnn, portId, iscsiName, chap, ports, online, mapped, internal, \
     portalMode, maxOutstandingIo, seenBy

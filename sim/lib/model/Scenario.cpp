@@ -4,6 +4,7 @@
 #define JSON_DIAGNOSTICS 1
 #include <nlohmann/json.hpp>
 
+#include "model/Base64.h"
 #include "model/SanFields.h"
 #include "model/ScenarioCodec.h"
 
@@ -281,6 +282,19 @@ std::unordered_set<u64> adapterIds(const San& san)
     return ids;
 }
 
+// Files that are not text are kept in base64, which a hand-edited scenario
+// may have damaged; and a name has one content, so it is in one map only.
+bool checkBinaryFiles(const Adapter& a, const std::string& adapterName, std::string& error)
+{
+    for (const auto& [file, text] : a.binaryFiles) {
+        if (a.files.count(file))
+            return fail(error, adapterName + " file \"" + file + "\" is both in \"files\" and in \"binaryFiles\"");
+        if (!base64::isValid(text))
+            return fail(error, adapterName + " file \"" + file + "\" is not valid base64");
+    }
+    return true;
+}
+
 bool validateAdapters(const San& san, std::string& error)
 {
     std::unordered_set<u64> ids;
@@ -309,6 +323,8 @@ bool validateAdapters(const San& san, std::string& error)
         for (const Drive& d : a.drives)
             if (d.smart.size() > 32)
                 return fail(error, name() + " drive " + d.id + " has more than 32 SMART attributes");
+        if (!checkBinaryFiles(a, name(), error))
+            return false;
     }
     return true;
 }

@@ -735,6 +735,23 @@ bool headerAccepted(const San& san, std::uint64_t seen)
 
 } // namespace
 
+bool isUtf8(std::string_view text)
+{
+    auto p = reinterpret_cast<const unsigned char*>(text.data());
+    auto end = p + text.size();
+    while (p < end) {
+        if (*p < 0x80) {
+            ++p;
+            continue;
+        }
+        size_t length = utf8SequenceLength(p, end);
+        if (length == 0)
+            return false;
+        p += length;
+    }
+    return true;
+}
+
 bool write(const San& san, std::string& out)
 {
     Output output(out);

@@ -17,6 +17,10 @@ namespace sim::codec {
 // unspecified) when a text in the SAN is not valid UTF-8.
 bool write(const San& san, std::string& out);
 
+// True when `text` is well-formed UTF-8, which every text of a scenario must
+// be to be written as JSON.
+bool isUtf8(std::string_view text);
+
 // Reads a scenario that is plain, well-formed JSON with only known fields of
 // the right types and a supported header; fields left out keep their
 // defaults. False for anything else: duplicate keys, unknown fields, numbers

@@ -1,5 +1,6 @@
 #include "model/ScenarioCodec.h"
 
+#include "model/Base64.h"
 #include "model/DefaultSan.h"
 #include "model/Generate.h"
 #include "model/SanFields.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
 #include <type_traits>
 
 using namespace sim;
@@ -46,10 +48,17 @@ struct Perturb {
             number = static_cast<T>(number + 7 + seed);
     }
 
-    void operator()(const char*, std::map<std::string, std::string>& map)
+    void operator()(const char* name, std::map<std::string, std::string>& map)
     {
         if (!pick())
             return;
+        if (std::string_view(name) == "binaryFiles") {
+            // Valid base64 under names of their own, so that the SAN can
+            // still pass the checks of the model.
+            map["image " + oddText(seed)] = base64::encode(std::string("\x00\xff\xc3", 3) + oddText(seed));
+            map["empty.bin"] = "";
+            return;
+        }
         map["plain"] = "x";
         map[oddText(seed)] = oddText(seed + 1);
         map[""] = "";
@@ -150,6 +159,28 @@ TEST(ScenarioCodecTest, WholeValuesAreKeptExactly)
     EXPECT_EQ(back.adapters[0].bootTime, -9223372036854775807ll - 1);
     EXPECT_EQ(back.adapters[0].cachePoolBytes, ~0ull);
     EXPECT_EQ(back.adapters[1].files, san.adapters[1].files);
+}
+
+TEST(ScenarioCodecTest, EveryFieldOffIncludesBinaryFiles)
+{
+    San san = perturbed(1, 1);
+    // Lists get a default element and a perturbed one at their end.
+    ASSERT_FALSE(san.adapters.empty());
+    ASSERT_FALSE(san.adapters.back().binaryFiles.empty());
+    San back;
+    ASSERT_TRUE(codec::read(scenarioToText(san), back));
+    ASSERT_EQ(back.adapters.size(), san.adapters.size());
+    EXPECT_EQ(back.adapters.back().binaryFiles, san.adapters.back().binaryFiles);
+    EXPECT_EQ(back.adapters.back().files, san.adapters.back().files);
+}
+
+TEST(ScenarioCodecTest, Utf8CheckAgreesWithTheWriter)
+{
+    EXPECT_TRUE(codec::isUtf8(""));
+    EXPECT_TRUE(codec::isUtf8(oddText(3)));
+    EXPECT_TRUE(codec::isUtf8(std::string("a\0b", 3)));
+    for (const char* bad : {"\xff", "\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "a\xe2\x88", "\x80"})
+        EXPECT_FALSE(codec::isUtf8(bad)) << bad;
 }
 
 TEST(ScenarioCodecTest, TextThatIsNotUtf8IsLeftToTheGeneralPath)

@@ -126,6 +126,12 @@ TEST(ScenarioTest, EveryRuleOfTheModelIsNamed)
         {[](San& s) { s.adapters[0].drives.resize(65); }, first + " has more than 64 drives"},
         {[](San& s) { s.adapters[0].drives.resize(1); s.adapters[0].drives[0].id = "d0"; s.adapters[0].drives[0].smart.resize(33); },
          first + " drive d0 has more than 32 SMART attributes"},
+        {[](San& s) { s.adapters[0].binaryFiles["fw.bin"] = "not base64"; },
+         first + " file \"fw.bin\" is not valid base64"},
+        {[](San& s) { s.adapters[0].binaryFiles["fw.bin"] = "Zh=="; },
+         first + " file \"fw.bin\" is not valid base64"},
+        {[](San& s) { s.adapters[0].files["fw.bin"] = "text"; s.adapters[0].binaryFiles["fw.bin"] = "Zg=="; },
+         first + " file \"fw.bin\" is both in \"files\" and in \"binaryFiles\""},
         {[](San& s) { s.clusters.push_back(s.clusters[0]); s.clusters.back().members.clear(); },
          "cluster \"" + defaultSan().clusters[0].id + "\" is defined twice"},
         {[](San& s) { s.clusters[0].members.push_back(AdapterId{0xABC}); },
@@ -153,4 +159,27 @@ TEST(ScenarioTest, EveryRuleOfTheModelIsNamed)
         EXPECT_FALSE(validateSan(san, error)) << c.message;
         EXPECT_EQ(error, c.message);
     }
+}
+
+TEST(ScenarioTest, BinaryFilesSurviveARoundTripAsBase64)
+{
+    San san = defaultSan();
+    san.adapters[0].binaryFiles["fw.bin"] = "AP8Q";
+    std::string text = scenarioToText(san);
+    EXPECT_NE(text.find("\"binaryFiles\": {\n    \"fw.bin\": \"AP8Q\"\n   }"), std::string::npos) << text;
+    San back;
+    std::string error;
+    ASSERT_TRUE(scenarioFromText(text, "x.json", back, error)) << error;
+    EXPECT_EQ(back.adapters[0].binaryFiles, san.adapters[0].binaryFiles);
+    EXPECT_EQ(scenarioToText(back), text);
+}
+
+TEST(ScenarioTest, DamagedBase64InAScenarioIsNamed)
+{
+    const std::string text = R"({"format":"hbasim-scenario","version":1,"hosts":[{}],)"
+                             R"("adapters":[{"id":"2A","binaryFiles":{"fru.img":"AP8Q=="}}]})";
+    San san;
+    std::string error;
+    EXPECT_FALSE(scenarioFromText(text, "s.json", san, error));
+    EXPECT_EQ(error, "s.json: adapter 2A file \"fru.img\" is not valid base64");
 }
