@@ -90,8 +90,10 @@ int Backend::change(const std::function<int(San&, long long now)>& change, bool 
         rules::settle(*demo_, t);
         San copy = *demo_;
         int rc = change(copy, t);
-        if (keepAlways || !code::isFailure(rc) || rc == code::Partial)
+        if (keepAlways || !code::isFailure(rc) || rc == code::Partial) {
             demo_ = std::move(copy);
+            ++changeCount_;
+        }
         return rc;
     }
     int rc = code::Ok;
@@ -111,6 +113,7 @@ int Backend::change(const std::function<int(San&, long long now)>& change, bool 
         writtenAt_ = t;
         haveWritten_ = true;
         haveView_ = false;
+        ++changeCount_;
     }
     return rc;
 }

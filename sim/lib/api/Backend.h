@@ -6,6 +6,7 @@
 #include "model/San.h"
 #include "state/StateStore.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -32,6 +33,10 @@ public:
     // Fault injection: the code an injected fault gives this operation, or 0.
     // A gathering fault sets `firstError` and gives partial success.
     int fault(u64 adapter, const std::string& operation, MHbaReturnBuffer* firstError = nullptr);
+
+    // Counts the changes this process has made to the SAN, so that records
+    // filled before one can tell that they may be out of date.
+    const std::uint64_t* changeCount() const { return &changeCount_; }
 
     bool loadDemonstration(const std::string& file, std::string& error);
     bool inDemonstration() const { return demo_.has_value(); }
@@ -63,6 +68,7 @@ private:
     bool haveWritten_ = false;
     long long writtenAt_ = 0;
     HMsgHandler* handler_ = nullptr;
+    std::uint64_t changeCount_ = 0;
     std::string lastFailure_;   // said once, not again on every later call
 };
 

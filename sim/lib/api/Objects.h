@@ -21,6 +21,7 @@
 #include "records/KTargetInfo.h"
 #include "records/PUniqueID.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -176,11 +177,21 @@ class SimLun : public HLun {
 public:
     using Refresher = std::function<e_MHBA_RETURN(SimLun&)>;
     PLunID* getLunId() override { return &id; }
-    KLunInfo* getLunInfo() override { return &info; }
+    // A change made through this process since the record was filled may
+    // have touched the LUN: the record then says it is not valid, so that a
+    // caller refreshes it instead of showing the state from before.
+    KLunInfo* getLunInfo() override
+    {
+        if (changes && *changes != filledAt)
+            info.bValid = false;
+        return &info;
+    }
     e_MHBA_RETURN refreshLunInfo() override { return refresh ? refresh(*this) : MHBA_E_FAILURE; }
     PLunID id;
     KLunInfo info;
     Refresher refresh;
+    const std::uint64_t* changes = nullptr;     // the process's count of changes made
+    std::uint64_t filledAt = 0;                 // that count when `info` was filled
 };
 
 class SimLunCollection : public IndexedCollection<HLunCollection, SimLun> {

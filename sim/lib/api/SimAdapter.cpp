@@ -231,6 +231,8 @@ int SimAdapter::gatherFabric(const San& san, const Adapter& a)
 void SimAdapter::fillLun(SimLun& lun, const San& san, const Adapter& a, const VisiblePath& p)
 {
     fillLunInfo(san, *p.lun, a, lun.info);
+    lun.changes = backend_.changeCount();
+    lun.filledAt = *lun.changes;
     if (!p.target->online)
         lun.info.ui32LunState &= ~1u;   // no way to reach it through this target
     if (backend_.inDemonstration()) {

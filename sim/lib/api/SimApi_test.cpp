@@ -279,6 +279,30 @@ TEST_F(SimApiTest, EnableAndModifyKeepTheirRulesAndPersist)
     EXPECT_EQ(again->getLuns()->find(uncached)->getLunInfo()->eCacheState(), KLunInfo::CACHE_STATE_CACHED_LOCAL);
 }
 
+// A record handed out before a change this process made says it is out of
+// date, so that a script's later line refreshes it rather than showing the
+// LUN as it was.
+TEST_F(SimApiTest, RecordsFilledBeforeAChangeAskToBeRefreshed)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    PLunID uncached = lunIdOn(kSpa, 1);
+    ASSERT_NE(lun(dev0, kSpa, 1), nullptr);
+    HLun* held = dev0->getLuns()->find(uncached);
+    ASSERT_NE(held, nullptr);
+    EXPECT_TRUE(held->getLunInfo()->isLunInfoValid());
+    EXPECT_EQ(held->getLunInfo()->eCacheState(), KLunInfo::CACHE_STATE_NOT_CACHED);
+
+    ASSERT_EQ(dev0->enableCache(uncached, 1, 1, 0, 0, 0, 0, 0, 0), MHBA_S_OK);
+    EXPECT_FALSE(held->getLunInfo()->isLunInfoValid());
+    ASSERT_EQ(held->refreshLunInfo(), MHBA_S_OK);
+    EXPECT_TRUE(held->getLunInfo()->isLunInfoValid());
+    EXPECT_EQ(held->getLunInfo()->eCacheState(), KLunInfo::CACHE_STATE_CACHED_LOCAL);
+
+    // A refused change leaves the records as they are.
+    EXPECT_EQ(dev0->enableCache(uncached, 1, 1, 0, 0, 0, 0, 0, 0), MHBA_E_LUN_ALREADY_CACHED);
+    EXPECT_TRUE(held->getLunInfo()->isLunInfoValid());
+}
+
 TEST_F(SimApiTest, DisableRefusesForeignCacheAndRetriesByName)
 {
     HIsaAdapter* dev0 = adapter(0);
