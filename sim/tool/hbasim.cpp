@@ -4,6 +4,7 @@
 
 #include "model/DefaultSan.h"
 #include "model/Generate.h"
+#include "model/Rules.h"
 #include "model/Scenario.h"
 #include "model/View.h"
 #include "state/Clock.h"
@@ -134,13 +135,24 @@ int reset(StateStore& store, const std::vector<std::string>& args)
     return kDone;
 }
 
+// The SAN as the management library would present it now: flushes, purges
+// and restarts whose time has come are over, though the file may not have
+// been written since.
+bool readSettled(StateStore& store, San& san, std::string& error)
+{
+    if (!store.read(san, error))
+        return false;
+    rules::settle(san, simNow());
+    return true;
+}
+
 int show(StateStore& store, const std::vector<std::string>& args)
 {
     if (!args.empty())
         return badArguments("show takes no arguments");
     San san;
     std::string error;
-    if (!store.read(san, error))
+    if (!readSettled(store, san, error))
         return failed(error);
     std::fputs(sanSummary(san, simNow()).c_str(), stdout);
     return kDone;
@@ -152,7 +164,7 @@ int exportState(StateStore& store, const std::vector<std::string>& args)
         return badArguments("export takes at most one output file");
     San san;
     std::string error;
-    if (!store.read(san, error))
+    if (!readSettled(store, san, error))
         return failed(error);
     if (args.empty()) {
         std::fputs(scenarioToText(san).c_str(), stdout);

@@ -37,6 +37,16 @@ no longer cached.
   LUN 0  1st VP Group  on Target: 5006-0160-39A0-1122 NOT flushed, (SAN Data LUN is not cached)
   
 
+hbasim shows the SAN as it stands at its clock: purging at the time of the
+purge, no longer cached half a minute later.
+
+  $ hbasim show | grep -A1 "F6000000000001 "
+    60060160A1B2C3D4E5F6000000000001  direct access, 200 GiB, paths array-a-spa:0, array-a-spb:0, reserved
+        cached purging on 2000001B32A10C00, mirrored on 2000001B32A10D00
+  $ HBASIM_TIME=1795000040 hbasim show | grep -A1 "F6000000000001 "
+    60060160A1B2C3D4E5F6000000000001  direct access, 200 GiB, paths array-a-spa:0, array-a-spb:0, reserved
+    60060160A1B2C3D4E5F6000000000002  direct access, 100 GiB, paths array-a-spa:1, array-a-spb:1
+
 -accept_risk does not ask.
 
   $ hostcli -zek enable cache -zek=0 -mode=read_write_back -fc_target=21000024FF3C5A10 -lun_number=2 >/dev/null
