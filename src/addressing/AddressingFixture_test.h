@@ -16,6 +16,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
+#include "core/TempDirectory_test.h"
 #include "core/TokenCmd.h"
 #include "core/TokenInitializer.h"
 #include "records/KIsaAdapterPath.h"
@@ -114,12 +115,7 @@ public:
         size_t const at = text.find(emptyFaults);
         if (at != std::string::npos)
             text.replace(at, emptyFaults.size(), "\"faults\": " + faults);
-        static int counter = 0;
-        statePath = std::filesystem::temp_directory_path() /
-                    ("zek-addressing-" + std::to_string(getpid()) + "-" + std::to_string(++counter) + ".json");
         std::ofstream(statePath) << text;
-        setEnvironment("HBASIM_STATE", statePath.string(), previousState);
-        setEnvironment("HBASIM_TIME", "1700000000", previousTime);
 
         std::string const library = std::string(ZEK_TEST_BIN_DIR) + "/libhbaclient.so";
         loaded = !text.empty() && std::filesystem::exists(library);
@@ -138,10 +134,6 @@ public:
             g_pHbaMgmtApi->endClientSession();
             ReleaseHbaMgmtAPI();
         }
-        std::error_code ignored;
-        std::filesystem::remove(statePath, ignored);
-        restoreEnvironment("HBASIM_STATE", previousState);
-        restoreEnvironment("HBASIM_TIME", previousTime);
     }
     SimulatedSan(SimulatedSan const&) = delete;
     SimulatedSan& operator=(SimulatedSan const&) = delete;
@@ -155,27 +147,17 @@ public:
         return nullptr;
     }
 
-    bool loaded = false;
-    std::filesystem::path statePath;
+    // Other tests of the same program may rely on the variables as they
+    // were; the state's directory, lock file included, goes with the object.
+    TempDirectory scratch{"zek-addressing"};
+    std::filesystem::path statePath = scratch.file("san.json");
 
 private:
-    // Other tests of the same program may rely on the variables as they were.
-    static void setEnvironment(char const* name, std::string const& value, std::optional<std::string>& previous)
-    {
-        if (char const* old = std::getenv(name))
-            previous = old;
-        setenv(name, value.c_str(), 1);
-    }
-    static void restoreEnvironment(char const* name, std::optional<std::string> const& previous)
-    {
-        if (previous)
-            setenv(name, previous->c_str(), 1);
-        else
-            unsetenv(name);
-    }
+    ScopedEnvironmentVariable stateVariable{"HBASIM_STATE", statePath.string()};
+    ScopedEnvironmentVariable timeVariable{"HBASIM_TIME", "1700000000"};
 
-    std::optional<std::string> previousState;
-    std::optional<std::string> previousTime;
+public:
+    bool loaded = false;
 };
 
 // Passes every call on to the loaded library and counts the ones whose

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "api/ChildProcessForTests.h"
+#include "core/TempDirectory_test.h"
 #include "api/HbaMgmtApi.h"
 #include "api/MHbaReturnBuffer.h"
 
@@ -78,25 +79,6 @@ std::string dlsymErrorFor(const std::string& file, const char* symbol)
     dlclose(handle);
     return text;
 }
-
-class ScopedTempDirectory {
-public:
-    ScopedTempDirectory()
-    {
-        char pattern[] = "/tmp/zek-loader-XXXXXX";
-        path_ = mkdtemp(pattern) != nullptr ? pattern : "";
-    }
-    ~ScopedTempDirectory()
-    {
-        std::error_code ignored;
-        if (!path_.empty())
-            fs::remove_all(path_, ignored);
-    }
-    const std::string& path() const { return path_; }
-
-private:
-    std::string path_;
-};
 
 } // namespace
 
@@ -182,16 +164,16 @@ TEST(DllInterfaceTable, ListsCreateDestroyAndFinalReleaseThenEnds)
 
 TEST(InitializeHbaMgmtApi, AMissingLibraryEndsTheProcessWithStatus1)
 {
-    ScopedTempDirectory empty;
-    ASSERT_FALSE(empty.path().empty());
+    TempDirectory empty{"zek-loader"};
+    ASSERT_FALSE(empty.path.empty());
     std::string file;
     ChildOutcome child = runInChild([&] {
-        useDirectory(empty.path());
+        useDirectory(empty.path);
         InitializeHbaMgmtAPI();
     });
     EXPECT_TRUE(child.exited);
     EXPECT_EQ(child.status, 1);
-    file = hbaMgmt_libraryFileName(empty.path() + std::string(299 - empty.path().size(), '/'));
+    file = hbaMgmt_libraryFileName(empty.path + std::string(299 - empty.path.size(), '/'));
     EXPECT_EQ(child.err, "Couldn't open " + file + ":  " + dlopenErrorFor(file) + "\n");
     EXPECT_EQ(child.out, "");
 }
@@ -276,12 +258,12 @@ TEST(InitializeHbaMgmtApi, FindsTheLibraryBesideTheRunningProgram)
         EXPECT_EQ(ReleaseHbaMgmtAPI(), 7);
         return;
     }
-    ScopedTempDirectory folder;
-    ASSERT_FALSE(folder.path().empty());
-    fs::copy_file(fs::read_symlink("/proc/self/exe"), folder.path() + "/api_tests");
+    TempDirectory folder{"zek-loader"};
+    ASSERT_FALSE(folder.path.empty());
+    fs::copy_file(fs::read_symlink("/proc/self/exe"), folder.path + "/api_tests");
     fs::copy_file(fixtureDirectory("hbaclient-compatible") + "/libhbaclient.so",
-                  folder.path() + "/libhbaclient.so");
-    std::string command = "ZEK_LOADER_BESIDE_PROGRAM=1 " + folder.path() +
+                  folder.path + "/libhbaclient.so");
+    std::string command = "ZEK_LOADER_BESIDE_PROGRAM=1 " + folder.path +
                           "/api_tests --gtest_filter=InitializeHbaMgmtApi.FindsTheLibraryBesideTheRunningProgram"
                           " >/dev/null 2>&1";
     EXPECT_EQ(std::system(command.c_str()), 0);

@@ -13,6 +13,7 @@
 
 #include "core/FakeHbaMgmtApi_test.h"
 #include "core/Parser.h"
+#include "core/TempDirectory_test.h"
 #include "core/TokenRoot.h"
 #include "core/cli/CmdAppendSet.h"
 #include "core/cli/CmdAppendShow.h"
@@ -76,18 +77,6 @@ public:
     int execCommand(std::string&) override { return 0; }
 };
 
-class TempDirectory {
-public:
-    TempDirectory()
-    {
-        char pattern[] = "/tmp/zekcoreXXXXXX";
-        path = mkdtemp(pattern);
-    }
-    ~TempDirectory() { std::filesystem::remove_all(path); }
-    std::string file(std::string const& name) const { return path + "/" + name; }
-    std::string path;
-};
-
 inline std::string readWholeFile(std::string const& path)
 {
     std::ifstream in(path, std::ios::binary);
@@ -102,19 +91,11 @@ protected:
     {
         savedCwd = std::filesystem::current_path();
         std::filesystem::current_path(dir.path);
-        char const* home = getenv("HOME");
-        savedHome = home ? home : "";
-        hadHome = home != nullptr;
-        setenv("HOME", dir.path.c_str(), 1);
         build(parser);
     }
     void TearDown() override
     {
         std::filesystem::current_path(savedCwd);
-        if (hadHome)
-            setenv("HOME", savedHome.c_str(), 1);
-        else
-            unsetenv("HOME");
     }
 
     void build(Parser& p)
@@ -151,7 +132,8 @@ protected:
         return rc;
     }
 
-    TempDirectory dir;
+    TempDirectory dir{"zekcore"};
+    ScopedEnvironmentVariable home{"HOME", dir.path};
     ScopedFakeApi fake;
     Parser parser;
     ScriptedShowLun* showLun = nullptr;
@@ -162,6 +144,4 @@ protected:
 
 private:
     std::filesystem::path savedCwd;
-    std::string savedHome;
-    bool hadHome = false;
 };

@@ -9,6 +9,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "core/TempDirectory_test.h"
 #include "core/zekcli.h"
 
 namespace {
@@ -117,11 +118,8 @@ struct ToolRun {
 
 ToolRun runTool(std::vector<std::string> args)
 {
-    char pattern[] = "/tmp/zek-entry-test-XXXXXX";
-    std::string const home = mkdtemp(pattern);
-    char const* saved = std::getenv("HOME");
-    std::string const savedHome = saved ? saved : "";
-    setenv("HOME", home.c_str(), 1);
+    TempDirectory const home{"zek-entry-test"};
+    ScopedEnvironmentVariable const homeVariable("HOME", home.path);
 
     std::vector<char*> argv;
     for (std::string& arg : args)
@@ -133,12 +131,7 @@ ToolRun runTool(std::vector<std::string> args)
     run.out = testing::internal::GetCapturedStdout();
     EXPECT_EQ(argv, before) << "the caller's vector must stay unchanged";
 
-    if (saved)
-        setenv("HOME", savedHome.c_str(), 1);
-    else
-        unsetenv("HOME");
-    EXPECT_NE(access((home + "/zekcli.ini").c_str(), F_OK), 0) << "nothing may be saved";
-    std::filesystem::remove_all(home);
+    EXPECT_NE(access(home.file("zekcli.ini").c_str(), F_OK), 0) << "nothing may be saved";
     return run;
 }
 

@@ -12,6 +12,7 @@
 
 #include "core/TokenCmd.h"
 #include "core/TokenRoot.h"
+#include "core/TempDirectory_test.h"
 #include "core/TokenTreeFixture.h"
 
 using namespace testtree;
@@ -33,13 +34,6 @@ FILE* fileHolding(std::string const& bytes)
     std::fwrite(bytes.data(), 1, bytes.size(), file);
     std::rewind(file);
     return file;
-}
-
-std::string makeTempDir()
-{
-    char pattern[] = "/tmp/zek-token-test-XXXXXX";
-    char* made = mkdtemp(pattern);
-    return made ? made : "";
 }
 
 } // namespace
@@ -475,8 +469,9 @@ TEST(TokenHelpers, BareCarriageReturnSwallowsTheNextByte)
 
 TEST(TokenHelpers, CreateDirectory)
 {
-    std::string const base = makeTempDir();
-    ASSERT_FALSE(base.empty());
+    TempDirectory scratch{"zek-token-test"};
+    ASSERT_TRUE(scratch.made());
+    std::string const& base = scratch.path;
     std::string err;
     std::string existing = base;
     EXPECT_TRUE(TokenCmd::createDirectoryIfItDoesNotExist(existing, err));
@@ -488,26 +483,18 @@ TEST(TokenHelpers, CreateDirectory)
     std::string impossible = base + "/missing/deeper";
     EXPECT_FALSE(TokenCmd::createDirectoryIfItDoesNotExist(impossible, err));
     EXPECT_EQ(err, "Directory create failed");
-    rmdir(fresh.c_str());
-    rmdir(base.c_str());
 }
 
 TEST(TokenHelpers, EmptyDirectoryMeansHome)
 {
-    std::string const home = makeTempDir();
-    ASSERT_FALSE(home.empty());
-    char const* saved = std::getenv("HOME");
-    std::string const savedHome = saved ? saved : "";
-    setenv("HOME", home.c_str(), 1);
+    TempDirectory scratch{"zek-token-test"};
+    ASSERT_TRUE(scratch.made());
+    std::string const& home = scratch.path;
+    ScopedEnvironmentVariable const homeVariable("HOME", home);
     std::string path;
     std::string err;
     EXPECT_TRUE(TokenCmd::createDirectoryIfItDoesNotExist(path, err));
     EXPECT_EQ(path, home);
-    if (saved)
-        setenv("HOME", savedHome.c_str(), 1);
-    else
-        unsetenv("HOME");
-    rmdir(home.c_str());
 }
 
 TEST(TokenHelpers, SafeOpenReportsWhy)

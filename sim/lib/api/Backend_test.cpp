@@ -1,5 +1,6 @@
 #include "api/Backend.h"
 
+#include "core/TempDirectory_test.h"
 #include "model/Codes.h"
 #include "model/Rules.h"
 #include "model/Scenario.h"
@@ -21,17 +22,8 @@ class BackendTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        char pattern[] = "/tmp/hbasim-backend-XXXXXX";
-        ASSERT_NE(mkdtemp(pattern), nullptr);
-        dir = pattern;
-        path = dir + "/san.json";
-        setenv("HBASIM_STATE", path.c_str(), 1);
+        ASSERT_TRUE(dir.made());
         setClock(kStart);
-    }
-    void TearDown() override
-    {
-        unsetenv("HBASIM_STATE");
-        std::system(("rm -rf '" + dir + "'").c_str());
     }
 
     static void setClock(long long t) { setenv("HBASIM_TIME", std::to_string(t).c_str(), 1); }
@@ -62,8 +54,9 @@ protected:
         }, error)) << error;
     }
 
-    std::string dir;
-    std::string path;
+    TempDirectory dir{"hbasim-backend"};
+    std::string path = dir.file("san.json");
+    ScopedEnvironmentVariable state{"HBASIM_STATE", path};
 };
 
 int rename(San& san, const std::string& name)

@@ -2,6 +2,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/Ids.h"
+#include "core/TempDirectory_test.h"
 
 #include "records/KAdapterGroupExtendedLunInfo.h"
 #include "records/KDriveInfo.h"
@@ -32,18 +33,13 @@ class SimApiTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        char pattern[] = "/tmp/hbasim-api-XXXXXX";
-        ASSERT_NE(mkdtemp(pattern), nullptr);
-        dir = pattern;
-        state = dir + "/san.json";
-        setenv("HBASIM_STATE", state.c_str(), 1);
+        ASSERT_TRUE(scratch.made());
         setenv("HBASIM_TIME", "1795000000", 1);
         api = std::make_unique<SimApi>();
     }
     void TearDown() override
     {
         api.reset();
-        std::system(("rm -rf '" + dir + "'").c_str());
     }
 
     KIsaAdapterPath devicePath(int instance)
@@ -93,8 +89,10 @@ protected:
         return id;
     }
 
-    std::string dir;
-    std::string state;
+    TempDirectory scratch{"hbasim-api"};
+    std::string dir = scratch.path;
+    std::string state = scratch.file("san.json");
+    ScopedEnvironmentVariable stateVariable{"HBASIM_STATE", state};
     std::unique_ptr<SimApi> api;
 };
 

@@ -1,5 +1,6 @@
 #include "state/StateStore.h"
 
+#include "core/TempDirectory_test.h"
 #include "model/Codes.h"
 #include "model/Generate.h"
 #include "model/Rules.h"
@@ -22,16 +23,12 @@ class StateStoreTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        char pattern[] = "/tmp/hbasim-store-XXXXXX";
-        ASSERT_NE(mkdtemp(pattern), nullptr);
-        dir = pattern;
-        path = dir + "/state/san.json";
+        ASSERT_TRUE(scratch.made());
         setenv("HBASIM_TIME", "1700000000", 1);
     }
-    void TearDown() override { std::system(("rm -rf '" + dir + "'").c_str()); }
-
-    std::string dir;
-    std::string path;
+    TempDirectory scratch{"hbasim-store"};
+    std::string dir = scratch.path;
+    std::string path = dir + "/state/san.json";
 };
 
 std::string fileText(const std::string& path)

@@ -1,4 +1,5 @@
 #include "commands/cache/CmdCacheDump.h"
+#include "core/TempDirectory_test.h"
 
 #include <gtest/gtest.h>
 
@@ -13,25 +14,15 @@ namespace {
 
 class CacheDumpFiles : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        char pattern[] = "/tmp/cachedumpXXXXXX";
-        ASSERT_NE(mkdtemp(pattern), nullptr);
-        dir = pattern;
-    }
-    void TearDown() override
-    {
-        std::remove(path.c_str());
-        rmdir(dir.c_str());
-    }
+    void SetUp() override { ASSERT_TRUE(dir.made()); }
     void write(std::string const& bytes)
     {
-        path = dir + "/dump.txt";
+        path = dir.file("dump.txt");
         std::ofstream(path, std::ios::binary) << bytes;
     }
 
     CmdCacheDump command;
-    std::string dir;
+    TempDirectory dir{"cachedump"};
     std::string path;
 };
 
@@ -63,7 +54,7 @@ TEST_F(CacheDumpFiles, AnEmptyFileShowsNothing)
 
 TEST_F(CacheDumpFiles, AFileThatCannotBeOpenedShowsWhy)
 {
-    path = dir + "/missing.txt";
+    path = dir.file("missing.txt");
     EXPECT_EQ(command.displayCacheInfoFile(path),
               "Unable to open file \"" + path + "\", (No such file or directory)");
 }
