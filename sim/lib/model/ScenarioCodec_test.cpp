@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
 #include <string_view>
 #include <type_traits>
 
@@ -319,4 +321,43 @@ TEST(ScenarioCodecTest, DeclinedTextsStillGetTheirMessages)
     // Accepted by the general path as always, though not by the fast one.
     ASSERT_TRUE(scenarioFromText(R"({"format":"hbasim-scenario","version":1,"nextLocalLun":2.0})", "f", san, error));
     EXPECT_EQ(san.nextLocalLun, 2u);
+}
+
+// Damaged state files, made by cutting, inserting and overwriting bytes at
+// random (with a fixed seed) in real scenarios: whatever the fast reader
+// accepts must read exactly as the general path reads it, and whatever it
+// declines must still get the general path's verdict and message.
+TEST(ScenarioCodecTest, DamagedTextsGetTheGeneralVerdict)
+{
+    const std::string pieces[] = {"{", "}", "[", "]", ",", ":", "\"", "\\", "0", "-", "1e9", "true", "null",
+                                  " ", "\"name\"", "\"files\":{}", "\xc3", "\xff", "\\u00e9", "2.5"};
+    std::mt19937 random(20261122);
+    int accepted = 0;
+    for (const San& san : {defaultSan(), generateSan(2, 6, 2), perturbed(2, 3)}) {
+        const std::string original = generalScenarioToText(san);
+        for (int round = 0; round < 150; ++round) {
+            std::string text = original;
+            for (int cut = 1 + static_cast<int>(random() % 3); cut > 0; --cut) {
+                size_t at = random() % text.size();
+                switch (random() % 3) {
+                case 0: text.erase(at, 1 + random() % 8); break;
+                case 1: text.insert(at, pieces[random() % std::size(pieces)]); break;
+                default: text[at] = static_cast<char>(random() % 256); break;
+                }
+            }
+            San fast, general;
+            std::string fastError, generalError;
+            const bool fastRead = scenarioFromText(text, "f", fast, fastError);
+            const bool generalRead = generalScenarioFromText(text, "f", general, generalError);
+            ASSERT_EQ(fastRead, generalRead) << text;
+            if (fastRead) {
+                ++accepted;
+                EXPECT_EQ(generalScenarioToText(fast), generalScenarioToText(general)) << text;
+            } else {
+                EXPECT_EQ(fastError, generalError) << text;
+            }
+        }
+    }
+    // Some damage (a blank, a changed digit) leaves a valid scenario.
+    EXPECT_GT(accepted, 0);
 }
