@@ -104,10 +104,9 @@ void BM_FoldAndParse(benchmark::State& state, char const* text)
 int registerLines()
 {
     for (TypicalLine const& line : kTypicalLines)
-        benchmark::RegisterBenchmark((std::string("BM_ParseCommandLine/") + line.label).c_str(),
-                                     BM_ParseCommandLine, line.text);
-    benchmark::RegisterBenchmark("BM_FoldAndParse/show_lun_by_path", BM_FoldAndParse,
-                                 kTypicalLines[3].text);
+        benchmark::RegisterBenchmark((std::string("BM_ParseCommandLine/") + line.label).c_str(), BM_ParseCommandLine,
+                                     line.text);
+    benchmark::RegisterBenchmark("BM_FoldAndParse/show_lun_by_path", BM_FoldAndParse, kTypicalLines[3].text);
     return 0;
 }
 int const registered = registerLines();

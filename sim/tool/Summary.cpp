@@ -28,18 +28,23 @@ std::string hostName(const std::string& agent)
 
 const char* modeName(int mode)
 {
-    static const char* names[] = {"none", "read/write-through", "read/write-back", "read-only",
-                                  "write-through-only", "write-back-only", "purging"};
+    static const char* names[] = {"none",      "read/write-through", "read/write-back",
+                                  "read-only", "write-through-only", "write-back-only",
+                                  "purging"};
     return mode >= 0 && mode <= 6 ? names[mode] : "unknown";
 }
 
 const char* lunTypeName(int type)
 {
     switch (type) {
-    case 1: return "direct access";
-    case 2: return "sequential access";
-    case 11: return "controller";
-    default: return "other";
+    case 1:
+        return "direct access";
+    case 2:
+        return "sequential access";
+    case 11:
+        return "controller";
+    default:
+        return "other";
     }
 }
 
@@ -67,18 +72,18 @@ std::string adapters(const San& san, long long now)
         std::string reach = a.device >= 0 ? "device " + std::to_string(a.device) + " on " + hostName(a.host)
                                           : "SAN via device " + std::to_string(a.viaDevice) + " on " + hostName(a.host);
         std::string state = a.state != 1 ? "OFFLINE" : adapterAnswers(a, now) ? "online" : "restarting";
-        text += "  " + adapterIdText(a.id.value) + "  " + reach + ", " + state + ", \"" + a.symbolicName + "\", "
-                + adapterRole(san, a) + "\n";
+        text += "  " + adapterIdText(a.id.value) + "  " + reach + ", " + state + ", \"" + a.symbolicName + "\", " +
+            adapterRole(san, a) + "\n";
         std::string ports;
         for (size_t i = 0; i < a.ports.size(); ++i)
-            ports += (i ? ", " : "") + std::string("FC") + std::to_string(i + 1)
-                     + (a.ports[i].enabled ? (a.ports[i].online ? " up" : " down") : " disabled");
+            ports += (i ? ", " : "") + std::string("FC") + std::to_string(i + 1) +
+                (a.ports[i].enabled ? (a.ports[i].online ? " up" : " down") : " disabled");
         int configured = 0;
         for (const Drive& d : a.drives)
             configured += d.configured;
-        text += "      ports: " + ports + "; drives: " + std::to_string(a.drives.size()) + " ("
-                + std::to_string(configured) + " in pool); cache pool " + sizeText(a.cachePoolBytes) + "; log "
-                + std::to_string(a.log.size()) + " records\n";
+        text += "      ports: " + ports + "; drives: " + std::to_string(a.drives.size()) + " (" +
+            std::to_string(configured) + " in pool); cache pool " + sizeText(a.cachePoolBytes) + "; log " +
+            std::to_string(a.log.size()) + " records\n";
     }
     return text;
 }
@@ -89,8 +94,8 @@ std::string clusters(const San& san)
     if (san.clusters.empty())
         text += "  none\n";
     for (const Cluster& c : san.clusters) {
-        text += "  " + c.id + ": primary " + adapterIdText(c.primary.value) + ", secondary "
-                + adapterIdText(c.secondary.value) + ", " + std::to_string(c.members.size()) + " members\n";
+        text += "  " + c.id + ": primary " + adapterIdText(c.primary.value) + ", secondary " +
+            adapterIdText(c.secondary.value) + ", " + std::to_string(c.members.size()) + " members\n";
     }
     return text;
 }
@@ -102,8 +107,8 @@ std::string targets(const San& san)
         std::string ports;
         for (int p : t.ports)
             ports += (ports.empty() ? "" : "+") + std::to_string(p);
-        text += "  " + t.name + "  " + (t.protocol == 2 ? "iSCSI " + t.iscsiName : "FC " + t.wwpn) + ", port "
-                + ports + (t.online ? "" : ", OFFLINE") + (t.internal ? ", internal" : "") + "\n";
+        text += "  " + t.name + "  " + (t.protocol == 2 ? "iSCSI " + t.iscsiName : "FC " + t.wwpn) + ", port " + ports +
+            (t.online ? "" : ", OFFLINE") + (t.internal ? ", internal" : "") + "\n";
     }
     return text;
 }
@@ -132,8 +137,8 @@ std::string luns(const San& san)
         std::string paths;
         for (const LunPath& p : l.paths)
             paths += (paths.empty() ? "" : ", ") + p.target + ":" + std::to_string(p.lun);
-        text += "  " + (l.codeSet == 2 ? "\"" + l.wwuln + "\"" : l.wwuln) + "  " + lunTypeName(l.type) + ", "
-                + sizeText(l.sizeBytes) + (l.online ? "" : ", OFFLINE") + ", paths " + paths;
+        text += "  " + (l.codeSet == 2 ? "\"" + l.wwuln + "\"" : l.wwuln) + "  " + lunTypeName(l.type) + ", " +
+            sizeText(l.sizeBytes) + (l.online ? "" : ", OFFLINE") + ", paths " + paths;
         if (l.local)
             text += ", data LUN \"" + l.localInfo.name + "\" of " + adapterIdText(l.localInfo.owner.value);
         if (l.reservation.type > 1)
@@ -161,8 +166,8 @@ std::string faults(const San& san)
 
 std::string sanSummary(const San& san, long long now)
 {
-    return "SAN \"" + san.name + "\"\n" + hosts(san) + adapters(san, now) + clusters(san) + targets(san) + luns(san)
-           + faults(san);
+    return "SAN \"" + san.name + "\"\n" + hosts(san) + adapters(san, now) + clusters(san) + targets(san) + luns(san) +
+        faults(san);
 }
 
 } // namespace sim

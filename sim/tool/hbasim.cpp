@@ -54,18 +54,73 @@ const char* const kUsage =
     "Exit status: 0 done, 1 the state or a file could not be used, 2 bad arguments.\n";
 
 const std::set<std::string> kOperations = {
-    "*", "addClusterMember", "addDriveToPool", "addDriveToPoolBySsdId", "clearAdapterStatistics", "clearLog",
-    "clearLunStatistics", "clearReservation", "createCluster", "createLun", "destroyCluster", "disableCache",
-    "disableCacheByWwuln", "enableCache", "executeNvdimmCommand", "factoryReset", "getAdapterHealth",
-    "getAdapterInfo", "getAdapterStatistics", "getCacheFlushProgress", "getCacheStatistics",
-    "getDrivesWithErrorDetails", "getFcInfo", "getFile", "getLunIoStatistics", "getLunsForSpecificTarget",
-    "getMemoryInfo", "getNvdimmInfo", "getPoolInfo", "getReservations", "getSfpInfo", "getSmartDriveInfo",
-    "getStatistics", "getSystemCapture", "getTargetsAndInitiators", "installFirmware", "invalidateCache",
-    "loadLog", "lockCache", "modifyCache", "modifyLun", "putFile", "refreshLunInfo", "removeClusterMember",
-    "removeDriveFromPool", "removeDriveFromPoolBySsdId", "removeLun", "removePool", "restart",
-    "restoreDriveConfig", "restoreFruFile", "saveCacheDump", "saveCaptureFile", "saveFruFile", "scanAll",
-    "scanTarget", "setBeacon", "setFcInfo", "setFcPortEnabled", "setLunMirror", "setPassword", "setPoolSize",
-    "setSymbolicName", "setTargetMaxOutstandingIo", "startCacheFlush", "unlockCache", "updateFirmware",
+    "*",
+    "addClusterMember",
+    "addDriveToPool",
+    "addDriveToPoolBySsdId",
+    "clearAdapterStatistics",
+    "clearLog",
+    "clearLunStatistics",
+    "clearReservation",
+    "createCluster",
+    "createLun",
+    "destroyCluster",
+    "disableCache",
+    "disableCacheByWwuln",
+    "enableCache",
+    "executeNvdimmCommand",
+    "factoryReset",
+    "getAdapterHealth",
+    "getAdapterInfo",
+    "getAdapterStatistics",
+    "getCacheFlushProgress",
+    "getCacheStatistics",
+    "getDrivesWithErrorDetails",
+    "getFcInfo",
+    "getFile",
+    "getLunIoStatistics",
+    "getLunsForSpecificTarget",
+    "getMemoryInfo",
+    "getNvdimmInfo",
+    "getPoolInfo",
+    "getReservations",
+    "getSfpInfo",
+    "getSmartDriveInfo",
+    "getStatistics",
+    "getSystemCapture",
+    "getTargetsAndInitiators",
+    "installFirmware",
+    "invalidateCache",
+    "loadLog",
+    "lockCache",
+    "modifyCache",
+    "modifyLun",
+    "putFile",
+    "refreshLunInfo",
+    "removeClusterMember",
+    "removeDriveFromPool",
+    "removeDriveFromPoolBySsdId",
+    "removeLun",
+    "removePool",
+    "restart",
+    "restoreDriveConfig",
+    "restoreFruFile",
+    "saveCacheDump",
+    "saveCaptureFile",
+    "saveFruFile",
+    "scanAll",
+    "scanTarget",
+    "setBeacon",
+    "setFcInfo",
+    "setFcPortEnabled",
+    "setLunMirror",
+    "setPassword",
+    "setPoolSize",
+    "setSymbolicName",
+    "setTargetMaxOutstandingIo",
+    "startCacheFlush",
+    "unlockCache",
+    "updateFirmware",
 };
 
 int badArguments(const std::string& text)
@@ -195,8 +250,8 @@ int addFault(StateStore& store, std::vector<std::string> args, bool partial)
     }
     const char* what = partial ? "partial" : "fault";
     if (args.size() != 3)
-        return badArguments(std::string(what) + " takes ADAPTER OPERATION " + (partial ? "FIRST_ERROR" : "CODE")
-                            + " [--always]");
+        return badArguments(std::string(what) + " takes ADAPTER OPERATION " + (partial ? "FIRST_ERROR" : "CODE") +
+                            " [--always]");
     if (!kOperations.count(args[1]))
         return badArguments("unknown operation \"" + args[1] + "\"");
     long long codeValue;
@@ -301,7 +356,8 @@ int setOnline(StateStore& store, const std::vector<std::string>& args, bool onli
     bool known = !args.empty() && (args[0] == "adapter" || args[0] == "port" || args[0] == "lun" || args[0] == "agent");
     size_t wanted = !known ? 0 : args[0] == "port" ? 3 : 2;
     if (!known || args.size() != wanted)
-        return badArguments(std::string(verb) + " takes adapter ADAPTER, port ADAPTER PORT, lun WWULN or agent ADDRESS");
+        return badArguments(std::string(verb) +
+                            " takes adapter ADAPTER, port ADAPTER PORT, lun WWULN or agent ADDRESS");
     return changeState(store, [&](San& san, std::string& problem) {
         if (args[0] == "lun")
             return setLunOnline(san, args[1], online, problem);
@@ -343,17 +399,28 @@ int generate(StateStore& store, std::vector<std::string> args)
 
 int run(StateStore& store, const std::string& command, const std::vector<std::string>& args)
 {
-    if (command == "reset") return reset(store, args);
-    if (command == "show") return show(store, args);
-    if (command == "export") return exportState(store, args);
-    if (command == "check") return check(args);
-    if (command == "fault") return addFault(store, args, false);
-    if (command == "partial") return addFault(store, args, true);
-    if (command == "faults") return listFaults(store, args);
-    if (command == "clear-faults") return clearFaults(store, args);
-    if (command == "offline") return setOnline(store, args, false);
-    if (command == "online") return setOnline(store, args, true);
-    if (command == "generate") return generate(store, args);
+    if (command == "reset")
+        return reset(store, args);
+    if (command == "show")
+        return show(store, args);
+    if (command == "export")
+        return exportState(store, args);
+    if (command == "check")
+        return check(args);
+    if (command == "fault")
+        return addFault(store, args, false);
+    if (command == "partial")
+        return addFault(store, args, true);
+    if (command == "faults")
+        return listFaults(store, args);
+    if (command == "clear-faults")
+        return clearFaults(store, args);
+    if (command == "offline")
+        return setOnline(store, args, false);
+    if (command == "online")
+        return setOnline(store, args, true);
+    if (command == "generate")
+        return generate(store, args);
     return badArguments("unknown command \"" + command + "\"");
 }
 

@@ -14,7 +14,10 @@ namespace {
 
 constexpr size_t kMaxAdapterIdText = 32;
 
-bool isSingleDigit(std::string const& text) { return text.size() == 1 && text[0] >= '0' && text[0] <= '9'; }
+bool isSingleDigit(std::string const& text)
+{
+    return text.size() == 1 && text[0] >= '0' && text[0] <= '9';
+}
 
 e_MHBA_RETURN checkLocalDevice(KIsaAdapterPath& path, int instance, PIpAddress const& agent)
 {
@@ -40,8 +43,7 @@ e_MHBA_RETURN TokenCmd::selectAdapter(KIsaAdapterPath& path, std::string& err)
     return selectAdapterFromKeyword(ModifierId::MODIFIER_ZEK, path, err);
 }
 
-e_MHBA_RETURN TokenCmd::selectAdapterFromKeyword(ModifierId::MODIFIER_ID id, KIsaAdapterPath& path,
-                                                 std::string& err)
+e_MHBA_RETURN TokenCmd::selectAdapterFromKeyword(ModifierId::MODIFIER_ID id, KIsaAdapterPath& path, std::string& err)
 {
     path.init();
     err.clear();

@@ -30,7 +30,10 @@ constexpr int kOpt = TokenModifier::OPTIONAL;
 constexpr int kReq = TokenModifier::REQUIRED;
 constexpr int kVal = TokenModifier::VALUE_REQUIRED;
 
-#define ADDRESSING_TEST_KEY(id) {2, kKey, "", "", ModifierId::id, kOpt, kVal}
+#define ADDRESSING_TEST_KEY(id)                                                                                        \
+    {                                                                                                                  \
+        2, kKey, "", "", ModifierId::id, kOpt, kVal                                                                    \
+    }
 
 // Every keyword that the addressing operations look up, all optional.
 inline Row const kAllKeywords[] = {
@@ -238,5 +241,5 @@ private:
 
 // Each test of the simulated SAN starts with this: a library that did not
 // load is a failure, never a silent pass.
-#define ADDRESSING_REQUIRE_SIMULATOR(san)                                                                            \
+#define ADDRESSING_REQUIRE_SIMULATOR(san)                                                                              \
     ASSERT_TRUE((san).loaded) << "libhbaclient.so in " ZEK_TEST_BIN_DIR " did not load the scenario"

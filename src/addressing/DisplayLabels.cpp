@@ -89,10 +89,10 @@ std::string TokenCmd::getDisplayText_Device(KDeviceID const& id) const
 std::string TokenCmd::getDisplayText_Initiator(PInitiatorID const& id, KInitiatorInfo const& info) const
 {
     if (info.isIscsiInitiator())
-        return "\n-is_initiator=" + id.displayText() + "\n    -iscsi_name=" +
-               PBase::charFieldToText(info.iscsi.iscsiName);
+        return "\n-is_initiator=" + id.displayText() +
+            "\n    -iscsi_name=" + PBase::charFieldToText(info.iscsi.iscsiName);
     return "\n-fc_initiator=" + id.displayText() + "\n    -wwpn=" + PBase::wwnameToText(info.fc.wwpn) +
-           " -wwnn=" + PBase::wwnameToText(info.fc.wwnn);
+        " -wwnn=" + PBase::wwnameToText(info.fc.wwnn);
 }
 
 std::string TokenCmd::getDisplayText_Target(PTargetID const& id) const
@@ -104,7 +104,10 @@ std::string TokenCmd::getDisplayText_Target(PTargetID const& id) const
     return "\n";
 }
 
-std::string TokenCmd::getDisplayText_Drive(KDriveID const& id) const { return "-drive=" + id.displayText(); }
+std::string TokenCmd::getDisplayText_Drive(KDriveID const& id) const
+{
+    return "-drive=" + id.displayText();
+}
 
 std::string TokenCmd::getDisplayText_Wwname(unsigned char const* name, int length, PBase::WWULN_CODE_SET_TYPE codeSet,
                                             std::string const& keyword, bool destination) const
@@ -112,8 +115,8 @@ std::string TokenCmd::getDisplayText_Wwname(unsigned char const* name, int lengt
     std::string text = (destination ? "-dmdest_" : "-") + keyword + "=";
     // A text name fills its field to the last byte when it is as long as the
     // field, so it is read from a terminated copy of its own length.
-    std::string const bounded = name ? std::string(reinterpret_cast<char const*>(name), std::max(length, 0))
-                                     : std::string();
+    std::string const bounded =
+        name ? std::string(reinterpret_cast<char const*>(name), std::max(length, 0)) : std::string();
     unsigned char const* const bytes = reinterpret_cast<unsigned char const*>(bounded.c_str());
     if (codeSet == PBase::WWULN_CODE_SET_BINARY)
         text += PBase::wwulnToText(bytes, length, codeSet);

@@ -66,7 +66,8 @@ TEST(DisplayLabels, AdapterGroupLun)
     info.ui32NonCachedAdapterCount = 2;
     info.ui64NonCachedAdapters[0] = 0x10A0;
     info.ui64NonCachedAdapters[1] = 0x10B1;
-    EXPECT_EQ("-lun_number=1 -fc_target=5006-0160-3EA0-1234   -zek=10A0\n", command.getDisplayText_AdapterGroupLun(info));
+    EXPECT_EQ("-lun_number=1 -fc_target=5006-0160-3EA0-1234   -zek=10A0\n",
+              command.getDisplayText_AdapterGroupLun(info));
 }
 
 TEST(DisplayLabels, Target)
@@ -128,7 +129,8 @@ TEST(DisplayLabels, DriveAndWwname)
     EXPECT_EQ("-lun_wwuln=", command.getDisplayText_Wwname(bytes, 4, PBase::WWULN_CODE_SET_NONE, "lun_wwuln", false));
     // A text that fills its field to the end is read no further.
     unsigned char full[4] = {'F', 'U', 'L', 'L'};
-    EXPECT_EQ("-lun_wwuln=\"FU\"", command.getDisplayText_Wwname(full, 2, PBase::WWULN_CODE_SET_TEXT, "lun_wwuln", false));
+    EXPECT_EQ("-lun_wwuln=\"FU\"",
+              command.getDisplayText_Wwname(full, 2, PBase::WWULN_CODE_SET_TEXT, "lun_wwuln", false));
 }
 
 TEST(SummaryTexts, AdaptersAndClusters)

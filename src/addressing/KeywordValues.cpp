@@ -29,7 +29,10 @@ bool isHexLetter(char c)
     return upper >= 'A' && upper <= 'F';
 }
 
-bool isDecimalDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDecimalDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
 
 struct NumberText {
     std::string digits;
@@ -88,7 +91,7 @@ int clampToInt(long long value)
 std::string rangeText(std::string const& name, long long min, long long max)
 {
     return "-" + name + " modifier requires a number in the range " + std::to_string(min) + " to " +
-           std::to_string(max);
+        std::to_string(max);
 }
 
 // The keyword, and whether it stands on the line; null when the command has
@@ -300,8 +303,7 @@ bool TokenCmd::getTimeFromCommandLineModifierIfFound(PTime& time, bool& found, s
     int const read =
         std::sscanf(text.c_str(), "%02d/%02d/%04d %02d:%02d:%02d", &month, &day, &year, &hour, &minute, &second);
     bool const valid = read == 6 && year >= 1970 && year <= 2040 && month >= 1 && month <= 12 && day >= 0 &&
-                       day <= 31 && hour >= 0 && hour <= 23 && minute >= 0 && minute <= 59 && second >= 0 &&
-                       second <= 59;
+        day <= 31 && hour >= 0 && hour <= 23 && minute >= 0 && minute <= 59 && second >= 0 && second <= 59;
     if (!valid)
         return refuse(keyword, err,
                       "Enter time in a quoted string \"MM/DD/YYYY HH:MM:SS\", with hour specified 0 to 23");
@@ -387,8 +389,7 @@ bool TokenCmd::getInitiatorIdFromCommandLineModifiers(PInitiatorID& id, bool& fo
 {
     found = false;
     ProtocolPair<PInitiatorID> const pair{ModifierId::MODIFIER_FC_INITIATOR, ModifierId::MODIFIER_IS_INITIATOR,
-                                          &PInitiatorID::initFcInitiatorID, &PInitiatorID::initIscsiInitiatorID,
-                                          false};
+                                          &PInitiatorID::initFcInitiatorID, &PInitiatorID::initIscsiInitiatorID, false};
     return readProtocolPair(*this, pair, id, found, err);
 }
 

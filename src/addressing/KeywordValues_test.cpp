@@ -27,8 +27,8 @@ NumberResult readNumber(std::string const& text, int min, int max)
     TestCommand command;
     command.give(ModifierId::MODIFIER_MAX_READ, text);
     NumberResult result{false, -7, false, ""};
-    result.ok = command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, min, max,
-                                                                result.value, result.found, result.err);
+    result.ok = command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, min, max, result.value,
+                                                                result.found, result.err);
     return result;
 }
 
@@ -59,8 +59,8 @@ TEST(NumberKeyword, DecimalPointIsRefusedAndTheValueCleared)
     int value = 0;
     bool found = false;
     std::string err;
-    EXPECT_FALSE(command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, 10, value, found,
-                                                                 err));
+    EXPECT_FALSE(
+        command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, 10, value, found, err));
     EXPECT_EQ("-max_read modifier does not allow decimal point.", err);
     EXPECT_EQ("", command.keyword(ModifierId::MODIFIER_MAX_READ).value);
     EXPECT_FALSE(command.keyword(ModifierId::MODIFIER_MAX_READ).isDefault);
@@ -105,8 +105,8 @@ TEST(NumberKeyword, AbsentKeywordLeavesTheValue)
     int value = 42;
     bool found = true;
     std::string err;
-    EXPECT_TRUE(command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, 10, value, found,
-                                                                err));
+    EXPECT_TRUE(
+        command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, 10, value, found, err));
     EXPECT_FALSE(found);
     EXPECT_EQ(42, value);
 }
@@ -117,8 +117,8 @@ TEST(NumberKeyword, KeywordTheCommandLacksIsAFailure)
     int value = 0;
     bool found = false;
     std::string err;
-    EXPECT_FALSE(command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_SEVERITY, 0, 10, value, found,
-                                                                 err));
+    EXPECT_FALSE(
+        command.getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_SEVERITY, 0, 10, value, found, err));
     EXPECT_EQ("\"severity\" is not a valid modifier", err);
 }
 
@@ -132,8 +132,8 @@ TEST(I64NumberKeyword, WideValuesAndTheRangeMessage)
     EXPECT_TRUE(command.getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, LLONG_MAX, value,
                                                                    found, err));
     EXPECT_EQ(123456789012LL, value);
-    EXPECT_FALSE(command.getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, 1000, value,
-                                                                    found, err));
+    EXPECT_FALSE(
+        command.getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_READ, 0, 1000, value, found, err));
     EXPECT_EQ("-max_read modifier requires a number in the range 0 to 1000", err);
     EXPECT_EQ("", command.keyword(ModifierId::MODIFIER_MAX_READ).value);
 }
@@ -152,8 +152,8 @@ SizeResult readSize(std::string const& text)
     command.give(ModifierId::MODIFIER_SIZE, text);
     SizeResult result{false, 7, ""};
     bool found = false;
-    result.ok = command.getByteSizeFromCommandLineModifierIfFound(ModifierId::MODIFIER_SIZE, result.bytes, found,
-                                                                  result.err);
+    result.ok =
+        command.getByteSizeFromCommandLineModifierIfFound(ModifierId::MODIFIER_SIZE, result.bytes, found, result.err);
     return result;
 }
 
@@ -203,8 +203,7 @@ TEST(ByteSizeKeyword, AbsentKeywordGivesZero)
 
 namespace {
 
-std::string const kTimeMessage =
-    "Enter time in a quoted string \"MM/DD/YYYY HH:MM:SS\", with hour specified 0 to 23";
+std::string const kTimeMessage = "Enter time in a quoted string \"MM/DD/YYYY HH:MM:SS\", with hour specified 0 to 23";
 
 bool readTime(std::string const& text, PTime& time, std::string& err)
 {
@@ -231,9 +230,9 @@ TEST(TimeKeyword, DayBeyondTheMonthIsNormalised)
 
 TEST(TimeKeyword, FieldsOutOfRange)
 {
-    for (char const* bad : {"13/01/2015 00:00:00", "01/32/2015 00:00:00", "01/01/1969 00:00:00",
-                            "01/01/2041 00:00:00", "01/01/2015 24:00:00", "01/01/2015 10:60:00",
-                            "01/01/2015 10:00:60", "01/01/2015", "tomorrow"}) {
+    for (char const* bad :
+         {"13/01/2015 00:00:00", "01/32/2015 00:00:00", "01/01/1969 00:00:00", "01/01/2041 00:00:00",
+          "01/01/2015 24:00:00", "01/01/2015 10:60:00", "01/01/2015 10:00:60", "01/01/2015", "tomorrow"}) {
         PTime time;
         std::string err;
         EXPECT_FALSE(readTime(bad, time, err)) << bad;

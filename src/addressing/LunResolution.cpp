@@ -31,8 +31,7 @@ struct LunKeywordSet {
           wwuln(destination ? ModifierId::MODIFIER_DMDEST_LUN_WWULN : ModifierId::MODIFIER_LUN_WWULN),
           serial(destination ? ModifierId::MODIFIER_DMDEST_LUN_SERIAL : ModifierId::MODIFIER_LUN_SERIAL),
           anyName(destination ? ModifierId::MODIFIER_DMDEST_LUN_ANY_WWULN : ModifierId::MODIFIER_LUN_ANY_WWULN)
-    {
-    }
+    {}
     std::string prefix;
     ModifierId::MODIFIER_ID number;
     ModifierId::MODIFIER_ID index;
@@ -65,7 +64,7 @@ bool gatherTargetsAndLuns(HIsaAdapter& adapter, std::string& err)
     e_MHBA_RETURN const gathered = adapter.getTargetsAndInitiators(&firstError);
     if (gathered == MHBA_S_PARTIAL_SUCCESS) {
         err = "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
-              firstError.displayText() + "\n";
+            firstError.displayText() + "\n";
     } else if (gathered != MHBA_S_OK) {
         err = "getTargetsAndInitiators returned:  " + g_pHbaMgmtApi->returnCodeToText(gathered);
         return false;
@@ -106,13 +105,13 @@ struct LunSelection {
     bool matchesAll(PLunID const& lun) const
     {
         return (!targetGiven || lun.targetID() == target) && (!numberGiven || lun.lunNumber() == lunNumber) &&
-               (!indexGiven || lun.vpgIndex() == vpgIndex);
+            (!indexGiven || lun.vpgIndex() == vpgIndex);
     }
     // Inclusive on purpose: any one given part that matches keeps the path.
     bool matchesAny(PLunID const& lun) const
     {
         return (targetGiven && lun.targetID() == target) || (numberGiven && lun.lunNumber() == lunNumber) ||
-               (indexGiven && lun.vpgIndex() == vpgIndex);
+            (indexGiven && lun.vpgIndex() == vpgIndex);
     }
 };
 
@@ -136,14 +135,14 @@ bool checkAgreement(std::vector<PLunID> const& luns, LunSelection const& selecti
         for (PLunID const& lun : luns)
             if (lun.lunNumber() != selection.lunNumber) {
                 err = "-" + prefix + "lun_number=" + selection.numberText +
-                      " conflicts with other LUN Identifiers in the input";
+                    " conflicts with other LUN Identifiers in the input";
                 return false;
             }
     if (selection.indexGiven)
         for (PLunID const& lun : luns)
             if (lun.vpgIndex() != selection.vpgIndex) {
                 err = "-" + prefix + "vpgindex=" + selection.indexText +
-                      " conflicts with other LUN Identifiers in the input";
+                    " conflicts with other LUN Identifiers in the input";
                 return false;
             }
     return true;
@@ -192,7 +191,7 @@ bool scanNameType(HIsaAdapter& adapter, HLunNameIndex& index, PBase::LUN_NAME_TY
     }
     if (scanned != MHBA_S_OK) {
         err = "Error attempting to find LUN using " + PBase::lunNameTypeToText(type) + ", (" +
-              std::to_string(static_cast<int>(scanned)) + ")";
+            std::to_string(static_cast<int>(scanned)) + ")";
         return false;
     }
     return true;
@@ -350,13 +349,13 @@ bool TokenCmd::getLunIdListForLunNameFromCommandLine(HIsaAdapter* adapter, bool 
     if (!anyName->isDefault) {
         // Either kind of name will do; why each try failed is of no interest.
         std::string ignored;
-        bool found = getLunIdListForOneLunNameType(adapter, anyName->value, PBase::LUN_NAME_WWULN, target, luns,
-                                                   ignored) &&
-                     !luns.empty();
+        bool found =
+            getLunIdListForOneLunNameType(adapter, anyName->value, PBase::LUN_NAME_WWULN, target, luns, ignored) &&
+            !luns.empty();
         if (!found)
-            found = getLunIdListForOneLunNameType(adapter, anyName->value, PBase::LUN_NAME_SERIAL_NUMBER, target,
-                                                  luns, ignored) &&
-                    !luns.empty();
+            found = getLunIdListForOneLunNameType(adapter, anyName->value, PBase::LUN_NAME_SERIAL_NUMBER, target, luns,
+                                                  ignored) &&
+                !luns.empty();
         if (!found) {
             err = "No LUN found for name \"" + anyName->value + "\"";
             return false;
@@ -385,8 +384,7 @@ bool TokenCmd::getLunIdListForOneLunNameType(HIsaAdapter* adapter, std::string c
     bool const wwulnName = type == PBase::LUN_NAME_WWULN;
     PLunsForOneNameID textKey;
     if (!textKey.initLunsForOneNameID(type, name)) {
-        err = (wwulnName ? "Supplied WWULN is too long:  \"" : "Supplied serial number is too long:  \"") + name +
-              "\"";
+        err = (wwulnName ? "Supplied WWULN is too long:  \"" : "Supplied serial number is too long:  \"") + name + "\"";
         return false;
     }
     // An adapter may have registered a WWULN as bytes rather than as text.
@@ -483,8 +481,8 @@ void forEachRelatedKeyword(std::vector<Token*> const& children, bool (TokenModif
     }
 }
 
-void testRelatedModifiers(std::vector<Token*> const& children, bool (TokenModifierString::*related)() const,
-                          bool& bAny, bool& bRequired)
+void testRelatedModifiers(std::vector<Token*> const& children, bool (TokenModifierString::*related)() const, bool& bAny,
+                          bool& bRequired)
 {
     bAny = bRequired = false;
     forEachRelatedKeyword(children, related, [&](TokenModifierString const& keyword) {

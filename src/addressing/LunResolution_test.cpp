@@ -17,7 +17,7 @@ std::string const kT2 = "50:00:00:00:00:00:00:02";
 std::string const kT2Text = "5000-0000-0000-0002";
 std::string const kIscsi = "iqn.2020-01.com.sim:array";
 std::string const kBinaryNamed = "600A0B80000000000000000000000A05"; // t1 LUN 5, serial SERIAL-A05
-std::string const kTextNamed = "SIMTEXT-LUN-0002";                  // t2 LUN 2
+std::string const kTextNamed = "SIMTEXT-LUN-0002";                   // t2 LUN 2
 std::string const kOneOnlineOneOffline = "600A0B80000000000000000000000A07";
 std::string const kOnT1AndT2 = "600A0B80000000000000000000000D08";
 
@@ -134,8 +134,8 @@ TEST(LunResolution, ANameAndADisagreeingIndexOfTheDestination)
     SimulatedSan san("luns");
     ADDRESSING_REQUIRE_SIMULATOR(san);
     Resolved const found = resolveGiven(
-        san, {{ModifierId::MODIFIER_DMDEST_LUN_WWULN, kBinaryNamed}, {ModifierId::MODIFIER_DMDEST_VPGINDEX, "2"}},
-        true, true);
+        san, {{ModifierId::MODIFIER_DMDEST_LUN_WWULN, kBinaryNamed}, {ModifierId::MODIFIER_DMDEST_VPGINDEX, "2"}}, true,
+        true);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("-dmdest_vpgindex=2 conflicts with other LUN Identifiers in the input", found.err);
 }
@@ -144,9 +144,9 @@ TEST(LunResolution, TwoKindsOfNameAreRefusedBeforeAnyQuestion)
 {
     SimulatedSan san("luns", kGatherAlwaysFails);
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    Resolved const found = resolveGiven(
-        san, {{ModifierId::MODIFIER_DMDEST_LUN_WWULN, "X"}, {ModifierId::MODIFIER_DMDEST_LUN_SERIAL, "Y"}}, true,
-        false);
+    Resolved const found =
+        resolveGiven(san, {{ModifierId::MODIFIER_DMDEST_LUN_WWULN, "X"}, {ModifierId::MODIFIER_DMDEST_LUN_SERIAL, "Y"}},
+                     true, false);
     EXPECT_FALSE(found.ok);
     EXPECT_EQ("Cannot use more than one of -lun_wwuln, -lun_serial, or -lun_any_wwuln", found.err);
 }

@@ -51,8 +51,7 @@ public:
     // ---- maintenance -------------------------------------------------------
     // Always called with 0; 1 is success with a restart required.
     virtual e_MHBA_RETURN factoryReset(int mode) = 0;
-    virtual e_MHBA_RETURN setPassword(const char* account, const char* oldPassword,
-                                      const char* newPassword) = 0;
+    virtual e_MHBA_RETURN setPassword(const char* account, const char* oldPassword, const char* newPassword) = 0;
     // Always called with 1; the adapter then stops answering for a while.
     virtual e_MHBA_RETURN restart(int mode) = 0;
     virtual e_MHBA_RETURN saveCaptureFile(const std::string& file) = 0;
@@ -105,8 +104,8 @@ public:
     // Fills the LUN collection and the target's LUN identifier list.
     virtual e_MHBA_RETURN getLunsForSpecificTarget(HTarget* target, MHbaReturnBuffer* firstError) = 0;
     virtual void reserved_62() {}
-    virtual e_MHBA_RETURN getLunIoStatistics(const uint8_t* wwuln, uint32_t wwulnLength,
-                                             bool withCacheStatistics, KLunIoStatistics& out) = 0;
+    virtual e_MHBA_RETURN getLunIoStatistics(const uint8_t* wwuln, uint32_t wwulnLength, bool withCacheStatistics,
+                                             KLunIoStatistics& out) = 0;
     virtual void reserved_64() {}
     // Fills drives and pools. 2 is partial success, as above.
     virtual e_MHBA_RETURN getDrivesWithErrorDetails(MHbaReturnBuffer* firstError) = 0;
@@ -121,23 +120,22 @@ public:
 
     // ---- LUNs and their cache ----------------------------------------------
     // On the adapter's own storage; gives back the new LUN's WWULN.
-    virtual e_MHBA_RETURN createLun(uint64_t sizeBytes, const std::string& name, int mirrorType,
-                                    uint64_t mirrorAdapter, KWwulnLunID& newLun) = 0;
+    virtual e_MHBA_RETURN createLun(uint64_t sizeBytes, const std::string& name, int mirrorType, uint64_t mirrorAdapter,
+                                    KWwulnLunID& newLun) = 0;
     virtual e_MHBA_RETURN modifyLun(const PLunID& lun, uint64_t sizeBytes, const std::string& name) = 0;
     virtual e_MHBA_RETURN setLunMirror(const PLunID& lun, int mirrorType, uint64_t mirrorAdapter) = 0;
     // May leave a failure text in `text`.
     virtual e_MHBA_RETURN removeLun(const PLunID& lun, std::string& text) = 0;
-    virtual e_MHBA_RETURN clearLunStatistics(const uint8_t* wwuln, uint32_t wwulnLength,
-                                             bool withCacheStatistics) = 0;
+    virtual e_MHBA_RETURN clearLunStatistics(const uint8_t* wwuln, uint32_t wwulnLength, bool withCacheStatistics) = 0;
     // Sizes travel in 512-byte blocks; a mirror adapter of 0 means none.
     // 1020 when the LUN is already cached.
-    virtual e_MHBA_RETURN enableCache(const PLunID& lun, int mode, int profile, uint32_t maxCache,
-                                      uint32_t minRead, uint32_t maxRead, uint32_t minWrite,
-                                      uint32_t maxWrite, uint64_t mirrorAdapter) = 0;
+    virtual e_MHBA_RETURN enableCache(const PLunID& lun, int mode, int profile, uint32_t maxCache, uint32_t minRead,
+                                      uint32_t maxRead, uint32_t minWrite, uint32_t maxWrite,
+                                      uint64_t mirrorAdapter) = 0;
     // 1021 when the LUN is not cached.
-    virtual e_MHBA_RETURN modifyCache(const PLunID& lun, int mode, int profile, uint32_t maxCache,
-                                      uint32_t minRead, uint32_t maxRead, uint32_t minWrite,
-                                      uint32_t maxWrite, uint64_t mirrorAdapter, bool useDefaults) = 0;
+    virtual e_MHBA_RETURN modifyCache(const PLunID& lun, int mode, int profile, uint32_t maxCache, uint32_t minRead,
+                                      uint32_t maxRead, uint32_t minWrite, uint32_t maxWrite, uint64_t mirrorAdapter,
+                                      bool useDefaults) = 0;
     // 185 when another adapter caches the LUN.
     virtual e_MHBA_RETURN disableCache(const KWwulnLunID& lun) = 0;
     // The same, addressed to a cluster's primary adapter.

@@ -23,6 +23,6 @@ public:
     virtual e_MHBA_RETURN scanAll(PBase::LUN_NAME_TYPE type) = 0;
     // The meaning of the last two arguments is the library's; callers pass
     // 0 and 100.
-    virtual e_MHBA_RETURN scanTarget(PBase::LUN_NAME_TYPE type, const PTargetID& target,
-                                     uint32_t first, uint32_t last) = 0;
+    virtual e_MHBA_RETURN scanTarget(PBase::LUN_NAME_TYPE type, const PTargetID& target, uint32_t first,
+                                     uint32_t last) = 0;
 };

@@ -42,8 +42,7 @@ public:
     virtual e_MHBA_RETURN getLibraryVersionInfo(KLibraryVersionInfo& out) = 0;
     virtual void reserved_11() {}
     // An empty address means the local host.
-    virtual e_MHBA_RETURN getRemoteAgentVersion(PIpAddress& agent, bool* agentFound,
-                                                KLibraryVersionInfo& out) = 0;
+    virtual e_MHBA_RETURN getRemoteAgentVersion(PIpAddress& agent, bool* agentFound, KLibraryVersionInfo& out) = 0;
     virtual void registerMsgHandler(HMsgHandler* handler) = 0;
     virtual void unregisterMsgHandler(HMsgHandler* handler) = 0;
     virtual void beginClientSession() = 0;

@@ -153,7 +153,7 @@ bool IsVersionCompatible()
     g_pHbaMgmtApi->getLibraryVersionInfo(version);
     // The build number does not matter for the interface.
     return version.versionMajor == kRequiredMajor && version.versionMinor == kRequiredMinor &&
-           version.versionPatch == kRequiredPatch;
+        version.versionPatch == kRequiredPatch;
 }
 
 bool IsRunningInLibrary()

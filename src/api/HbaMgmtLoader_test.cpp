@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include "api/ChildProcessForTests.h"
-#include "core/TempDirectory_test.h"
 #include "api/HbaMgmtApi.h"
 #include "api/MHbaReturnBuffer.h"
+#include "core/TempDirectory_test.h"
 
 namespace {
 
@@ -189,8 +189,9 @@ TEST(InitializeHbaMgmtApi, ALibraryWithoutFinalReleaseEndsTheProcessWithStatus1)
     });
     EXPECT_TRUE(child.exited);
     EXPECT_EQ(child.status, 1);
-    EXPECT_EQ(child.err, "Couldn't get   hbamgmtapi_final_release  from libhbaclient.so:  " +
-                             dlsymErrorFor(file, "hbamgmtapi_final_release") + "\n");
+    EXPECT_EQ(child.err,
+              "Couldn't get   hbamgmtapi_final_release  from libhbaclient.so:  " +
+                  dlsymErrorFor(file, "hbamgmtapi_final_release") + "\n");
     EXPECT_EQ(child.out, "");
 }
 
@@ -261,11 +262,10 @@ TEST(InitializeHbaMgmtApi, FindsTheLibraryBesideTheRunningProgram)
     TempDirectory folder{"zek-loader"};
     ASSERT_FALSE(folder.path.empty());
     fs::copy_file(fs::read_symlink("/proc/self/exe"), folder.path + "/api_tests");
-    fs::copy_file(fixtureDirectory("hbaclient-compatible") + "/libhbaclient.so",
-                  folder.path + "/libhbaclient.so");
+    fs::copy_file(fixtureDirectory("hbaclient-compatible") + "/libhbaclient.so", folder.path + "/libhbaclient.so");
     std::string command = "ZEK_LOADER_BESIDE_PROGRAM=1 " + folder.path +
-                          "/api_tests --gtest_filter=InitializeHbaMgmtApi.FindsTheLibraryBesideTheRunningProgram"
-                          " >/dev/null 2>&1";
+        "/api_tests --gtest_filter=InitializeHbaMgmtApi.FindsTheLibraryBesideTheRunningProgram"
+        " >/dev/null 2>&1";
     EXPECT_EQ(std::system(command.c_str()), 0);
 }
 

@@ -263,8 +263,7 @@ TEST(MHbaReturnBuffer, SaysWhenNoLibraryCanGiveTheText)
     // the code still reaches the user.
     HbaMgmtApi* saved = g_pHbaMgmtApi;
     g_pHbaMgmtApi = nullptr;
-    EXPECT_EQ(MHbaReturnBuffer(MHBA_E_NOT_SUPPORTED).displayText(),
-              "Return code 1003 (management library not loaded)");
+    EXPECT_EQ(MHbaReturnBuffer(MHBA_E_NOT_SUPPORTED).displayText(), "Return code 1003 (management library not loaded)");
     g_pHbaMgmtApi = saved;
 }
 

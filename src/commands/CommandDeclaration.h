@@ -32,13 +32,13 @@ constexpr TokenInitializer::TOKEN_INITIALIZER endRow()
 
 // The seven optional keywords by which any LUN command names its LUN, always
 // in this order, so that help and interactive prompting list them alike.
-#define LUN_SELECTOR_ROWS                                                                                  \
-    keywordRow(ModifierId::MODIFIER_LUN_WWULN, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),     \
-        keywordRow(ModifierId::MODIFIER_LUN_ANY_WWULN, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED), \
-        keywordRow(ModifierId::MODIFIER_LUN_SERIAL, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),    \
-        keywordRow(ModifierId::MODIFIER_LUN_NUMBER, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),    \
-        keywordRow(ModifierId::MODIFIER_VPGINDEX, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),      \
-        keywordRow(ModifierId::MODIFIER_FC_TARGET, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),     \
+#define LUN_SELECTOR_ROWS                                                                                              \
+    keywordRow(ModifierId::MODIFIER_LUN_WWULN, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),                \
+        keywordRow(ModifierId::MODIFIER_LUN_ANY_WWULN, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),        \
+        keywordRow(ModifierId::MODIFIER_LUN_SERIAL, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),           \
+        keywordRow(ModifierId::MODIFIER_LUN_NUMBER, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),           \
+        keywordRow(ModifierId::MODIFIER_VPGINDEX, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),             \
+        keywordRow(ModifierId::MODIFIER_FC_TARGET, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),            \
         keywordRow(ModifierId::MODIFIER_IS_TARGET, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED)
 
 // Declares `command` from `rows`: the command row first, then its keywords up

@@ -60,9 +60,9 @@ bool reachedThroughAgent(KIsaAdapterPath const& path);
 
 // What a command shows at its end.
 struct CommandReport {
-    bool banner = true;       // the adapter banner ahead of the text
-    std::string text;         // empty text shows nothing
-    bool writeResult = true;  // some commands write no result record at all
+    bool banner = true;      // the adapter banner ahead of the text
+    std::string text;        // empty text shows nothing
+    bool writeResult = true; // some commands write no result record at all
     e_MHBA_RETURN resultCode = MHBA_S_OK;
     void const* data = nullptr;
     unsigned long size = 0;

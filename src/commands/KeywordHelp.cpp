@@ -97,16 +97,15 @@ std::string lbaRangeHelp()
 
 std::string listResultHelp(std::string const& record, unsigned int size, std::string const& what)
 {
-    return resultLine(intField("nDataSizeInBytes;"), "size of the data that follows + 4")
-           + resultLine(intField("nCountSizeInBytes;"), "8")
-           + resultLine(intField("nCount;"), "number of entries that follow")
-           + "\tThen for each entry:\n"
-           + resultLine(intField("nDataSizeInBytes;"), std::to_string(size + 4))
-           + resultLine(record + " image;", what + " (" + std::to_string(size) + " bytes)");
+    return resultLine(intField("nDataSizeInBytes;"), "size of the data that follows + 4") +
+        resultLine(intField("nCountSizeInBytes;"), "8") +
+        resultLine(intField("nCount;"), "number of entries that follow") + "\tThen for each entry:\n" +
+        resultLine(intField("nDataSizeInBytes;"), std::to_string(size + 4)) +
+        resultLine(record + " image;", what + " (" + std::to_string(size) + " bytes)");
 }
 
 std::string recordResultHelp(std::string const& record, unsigned int size)
 {
-    return resultLine(intField("nDataSizeInBytes;"), std::to_string(size + 4))
-           + resultLine(record + " image;", "the record (" + std::to_string(size) + " bytes)");
+    return resultLine(intField("nDataSizeInBytes;"), std::to_string(size + 4)) +
+        resultLine(record + " image;", "the record (" + std::to_string(size) + " bytes)");
 }

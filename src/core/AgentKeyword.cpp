@@ -6,8 +6,8 @@
 #include "core/TokenCmd.h"
 #include "records/PIpAddress.h"
 
-bool TokenCmd::getIpAddressFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, PIpAddress& address,
-                                                          bool& found, std::string& err)
+bool TokenCmd::getIpAddressFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, PIpAddress& address, bool& found,
+                                                          std::string& err)
 {
     TokenModifierString* const keyword = findModifier(id, err);
     if (!keyword)

@@ -136,8 +136,8 @@ KeywordRow flag(std::string const& name, std::string const& value = "")
     return {name, 2, 0, value};
 }
 
-std::vector<KeywordRow> const lunSelectors = {opt("lun_wwuln"), opt("lun_any_wwuln"), opt("lun_serial"),
-                                              opt("lun_number"),  opt("vpgindex"),      opt("fc_target"),
+std::vector<KeywordRow> const lunSelectors = {opt("lun_wwuln"),  opt("lun_any_wwuln"), opt("lun_serial"),
+                                              opt("lun_number"), opt("vpgindex"),      opt("fc_target"),
                                               opt("is_target")};
 
 std::vector<KeywordRow> concat(std::vector<std::vector<KeywordRow>> const& parts)
@@ -153,7 +153,7 @@ std::vector<KeywordRow> concat(std::vector<std::vector<KeywordRow>> const& parts
 bool isCoreCliCommand(std::string const& action, std::string const& item)
 {
     static std::set<std::pair<std::string, std::string>> const core = {
-        {"?", "cli"},       {"help", "cli"},    {"retval", "cli"}, {"version", "cli"},
+        {"?", "cli"},         {"help", "cli"},  {"retval", "cli"}, {"version", "cli"},
         {"clear", "display"}, {"wait", "time"}, {"set", "append"}, {"show", "append"}};
     return core.count({action, item}) != 0;
 }
@@ -251,13 +251,13 @@ TEST_F(CommandTableTest, LunCommandsDeclareTheSevenSelectorsInOrder)
     expectKeywords("lock", "cache", concat({{req("lun_size_lba"), req("lun_start_lba")}, lunSelectors}));
     expectKeywords("invalidate", "cache", concat({{opt("lun_size_lba"), opt("lun_start_lba")}, lunSelectors}));
     expectKeywords("show", "lun_statistics", concat({{opt("interval")}, lunSelectors, {opt("csv_folder", "~")}}));
-    expectKeywords("modify", "lun", concat({{opt("size"), opt("name"), opt("mirror"), flag("remove_mirror")},
-                                            lunSelectors}));
+    expectKeywords("modify", "lun",
+                   concat({{opt("size"), opt("name"), opt("mirror"), flag("remove_mirror")}, lunSelectors}));
 }
 
 TEST_F(CommandTableTest, CacheEnableAndModifyDifferInModeAndDefaults)
 {
-    std::vector<KeywordRow> const limits = {opt("profile"),  opt("max_cache"), opt("max_read"),
+    std::vector<KeywordRow> const limits = {opt("profile"),   opt("max_cache"), opt("max_read"),
                                             opt("max_write"), opt("min_read"),  opt("min_write")};
     expectKeywords("enable", "cache", concat({{req("mode")}, limits, lunSelectors, {opt("mirror")}}));
     expectKeywords("modify", "cache",
@@ -272,8 +272,9 @@ TEST_F(CommandTableTest, AdapterAndClusterKeywords)
     expectKeywords("version", "adapter", {req("compare")});
     expectKeywords("factory_reset", "adapter", {flag("accept_risk")});
     expectKeywords("restart", "adapter", {});
-    expectKeywords("execute", "nvdimm", {flag("disarm"), flag("erase"), flag("update"), flag("update_all"),
-                                         flag("scap_selftest"), flag("scrub")});
+    expectKeywords(
+        "execute", "nvdimm",
+        {flag("disarm"), flag("erase"), flag("update"), flag("update_all"), flag("scap_selftest"), flag("scrub")});
     expectKeywords("interactive", "cli", {opt("zek")});
 }
 
@@ -289,19 +290,28 @@ TEST_F(CommandTableTest, FileKeywordsCarryTheirDeclaredInitialValue)
 TEST_F(CommandTableTest, LogKeywords)
 {
     expectKeywords("view", "log",
-                   {opt("filepath", "~"), opt("basepos", "~"), opt("offset", "~"), opt("time", "~"),
-                    opt("find", "~"), opt("severity", "~"), {"previous", 2, 2, "~"}, {"next", 2, 2, "~"}});
-    expectKeywords("list", "log", {opt("filepath", "~"), opt("find", "~"), opt("severity", "~"),
-                                   opt("csv_delimiter", "~"), opt("csv_file", "~"), opt("previous", "~")});
+                   {opt("filepath", "~"),
+                    opt("basepos", "~"),
+                    opt("offset", "~"),
+                    opt("time", "~"),
+                    opt("find", "~"),
+                    opt("severity", "~"),
+                    {"previous", 2, 2, "~"},
+                    {"next", 2, 2, "~"}});
+    expectKeywords("list", "log",
+                   {opt("filepath", "~"), opt("find", "~"), opt("severity", "~"), opt("csv_delimiter", "~"),
+                    opt("csv_file", "~"), opt("previous", "~")});
     expectKeywords("clear", "log", {});
 }
 
 TEST_F(CommandTableTest, StorageAndPortKeywords)
 {
-    expectKeywords("set", "fc", {req("port"), opt("fc_link_rate"), opt("exec_throttle"), flag("loop_only"),
-                                 flag("p2p_only"), flag("auto")});
-    expectKeywords("show", "drive", {opt("drive"), flag("smart"), flag("verbose"), opt("lun_number"),
-                                     opt("fc_target"), opt("is_target")});
+    expectKeywords(
+        "set", "fc",
+        {req("port"), opt("fc_link_rate"), opt("exec_throttle"), flag("loop_only"), flag("p2p_only"), flag("auto")});
+    expectKeywords(
+        "show", "drive",
+        {opt("drive"), flag("smart"), flag("verbose"), opt("lun_number"), opt("fc_target"), opt("is_target")});
     expectKeywords("set", "target", {opt("fc_target"), opt("is_target"), req("max_outstanding_io")});
     expectKeywords("show", "cache_statistics", {opt("interval"), opt("csv_folder"), flag("delta")});
     expectKeywords("restore", "drive_config", {req("owner")});

@@ -93,10 +93,7 @@ protected:
         std::filesystem::current_path(dir.path);
         build(parser);
     }
-    void TearDown() override
-    {
-        std::filesystem::current_path(savedCwd);
-    }
+    void TearDown() override { std::filesystem::current_path(savedCwd); }
 
     void build(Parser& p)
     {
@@ -104,8 +101,8 @@ protected:
         TokenRoot& root = p.root;
         showLun = new ScriptedShowLun;
         createLun = new ScriptedCreateLun;
-        Token* const commands[] = {new CmdZekcliQhelp, new CmdDisplayClear, createLun, new CmdZekcliHelp,
-                                   new CmdZekcliRetval, new CmdAppendSet, showLun, new CmdAppendShow,
+        Token* const commands[] = {new CmdZekcliQhelp,   new CmdDisplayClear, createLun, new CmdZekcliHelp,
+                                   new CmdZekcliRetval,  new CmdAppendSet,    showLun,   new CmdAppendShow,
                                    new CmdZekcliVersion, new CmdTimeWait};
         for (Token* cmd : commands)
             root.addChild(cmd);

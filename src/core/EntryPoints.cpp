@@ -78,10 +78,8 @@ void reportIncompatibleLibrary()
     if (g_pHbaMgmtApi)
         g_pHbaMgmtApi->getLibraryVersionInfo(info);
     std::string const text = "HBA Management API Library version " +
-                             versionText(info.versionMajor, info.versionMinor, info.versionPatch,
-                                         info.versionBuild) +
-                             " is not compatible with this client\n(Client has interface for " +
-                             versionText(2, 103, 0, 0) + ")\n";
+        versionText(info.versionMajor, info.versionMinor, info.versionPatch, info.versionBuild) +
+        " is not compatible with this client\n(Client has interface for " + versionText(2, 103, 0, 0) + ")\n";
     std::printf("%s", text.c_str());
 }
 
@@ -174,7 +172,10 @@ void zekcli_safe_strcat(char* dst, size_t dstSize, char const* src, size_t srcLe
     std::strncat(dst, src, srcLength);
 }
 
-void signal_callback_handler(int signum) { std::exit(signum); }
+void signal_callback_handler(int signum)
+{
+    std::exit(signum);
+}
 
 void allDone(int status)
 {

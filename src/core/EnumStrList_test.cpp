@@ -55,7 +55,8 @@ TEST(EnumStrList, AmbiguityResultIsZero)
 
 TEST(EnumStrList, TwoCandidatesReadWithOrAndNoLineFeed)
 {
-    EXPECT_EQ(lookupError(ModifierId::table(), "h"), "Ambiguous selection, please choose \"help\" or \"host_cluster_type\"");
+    EXPECT_EQ(lookupError(ModifierId::table(), "h"),
+              "Ambiguous selection, please choose \"help\" or \"host_cluster_type\"");
 }
 
 TEST(EnumStrList, UnknownWordKeepsItsSpellingAndEndsInLineFeed)

@@ -9,9 +9,9 @@
 #include <unistd.h>
 #include <vector>
 
+#include "api/HIsaAdapter.h"
 #include "api/HbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
-#include "api/HIsaAdapter.h"
 #include "core/AdapterBanner.h"
 #include "core/MyMsgHandler.h"
 #include "core/Parser.h"
@@ -107,8 +107,9 @@ int checkDeviceAccess(TokenCmd& cmd, CommonKeywords const& keys, std::string& er
 
 std::string failureText(int rc, std::string const& err)
 {
-    std::string text = rc == ZEKCLI_CONFIRM_FAIL ? std::string("(No action taken) ")
-                                                 : std::string(kWipeProgressLine) + "*** " + Parser::zekcliReturnToText(rc);
+    std::string text = rc == ZEKCLI_CONFIRM_FAIL
+        ? std::string("(No action taken) ")
+        : std::string(kWipeProgressLine) + "*** " + Parser::zekcliReturnToText(rc);
     if (!err.empty())
         text += " -- " + err;
     return text;
@@ -164,8 +165,8 @@ int Parser::execCommand(std::string& err, unsigned int iteration)
     if (accessRc != 0)
         return accessRc;
 
-    std::string const commandName = CmdAction::table().textFromVal(cmd.action) + " " +
-                                    CmdItem::table().textFromVal(cmd.item);
+    std::string const commandName =
+        CmdAction::table().textFromVal(cmd.action) + " " + CmdItem::table().textFromVal(cmd.item);
     root.resultFileEnabled = CommonKeywords::given(keys.result);
     root.resultFileName = keys.result->value;
 
@@ -201,14 +202,22 @@ int Parser::execCommand(std::string& err, unsigned int iteration)
 std::string Parser::zekcliReturnToText(int code)
 {
     switch (code) {
-    case ZEKCLI_OK: return "ZEKCLI_OK";
-    case ZEKCLI_INIT_FAIL: return "ZEKCLI_INIT_FAIL";
-    case ZEKCLI_PARSE_FAIL: return "ZEKCLI_PARSE_FAIL";
-    case ZEKCLI_CONFIRM_FAIL: return "ZEKCLI_CONFIRM_FAIL";
-    case ZEKCLI_CMD_FAIL: return "ZEKCLI_CMD_FAIL";
-    case ZEKCLI_EXIT: return "ZEKCLI_EXIT";
-    case ZEKCLI_TIMEOUT: return "ZEKCLI_TIMEOUT";
-    default: return g_pHbaMgmtApi->returnCodeToText(code);
+    case ZEKCLI_OK:
+        return "ZEKCLI_OK";
+    case ZEKCLI_INIT_FAIL:
+        return "ZEKCLI_INIT_FAIL";
+    case ZEKCLI_PARSE_FAIL:
+        return "ZEKCLI_PARSE_FAIL";
+    case ZEKCLI_CONFIRM_FAIL:
+        return "ZEKCLI_CONFIRM_FAIL";
+    case ZEKCLI_CMD_FAIL:
+        return "ZEKCLI_CMD_FAIL";
+    case ZEKCLI_EXIT:
+        return "ZEKCLI_EXIT";
+    case ZEKCLI_TIMEOUT:
+        return "ZEKCLI_TIMEOUT";
+    default:
+        return g_pHbaMgmtApi->returnCodeToText(code);
     }
 }
 

@@ -110,7 +110,6 @@ TEST_F(ExecutionFrame, FailedTextFileShowsTheMessageTwiceAndGives55)
     EXPECT_EQ(54, run("show lun -textfile=\"/nonexistent dir/x.log\""));
     std::string const line = kWipe + "*** ZEKCLI_CMD_FAIL\n";
     EXPECT_EQ(line + line, out);
-
 }
 
 TEST_F(ExecutionFrame, CommandWhoseTextFileFailsReturns55)
@@ -287,8 +286,9 @@ TEST_F(ExecutionFrame, ResultRecordWithPayload)
     char const payload[] = {'a', 'b', 'c'};
     EXPECT_TRUE(parser.root.outResult(CmdAction::ACTION_LIST, CmdItem::ITEM_DRIVE, MHBA_E_FAILURE, payload, 3,
                                       "ignored.dat", err));
-    std::string const expected = int32Bytes({32, 0, 2, 103, 6, 4, CmdAction::ACTION_LIST, CmdItem::ITEM_DRIVE, 1000, 7}) +
-                                 "abc" + int32Bytes({0});
+    std::string const expected =
+        int32Bytes({32, 0, 2, 103, 6, 4, CmdAction::ACTION_LIST, CmdItem::ITEM_DRIVE, 1000, 7}) + "abc" +
+        int32Bytes({0});
     EXPECT_EQ(expected, readWholeFile(dir.file("given.dat")));
     EXPECT_EQ(47u, expected.size());
 }

@@ -23,9 +23,15 @@ int helpItemNumber = 0;
 int helpCommandNumber = 0;
 
 // An empty help string still takes its place in the layout.
-std::string orBlank(std::string const& text) { return text.empty() ? std::string(" ") : text; }
+std::string orBlank(std::string const& text)
+{
+    return text.empty() ? std::string(" ") : text;
+}
 
-bool hasNotes(TokenCmd const& cmd) { return cmd.helpNotes.size() > 1; }
+bool hasNotes(TokenCmd const& cmd)
+{
+    return cmd.helpNotes.size() > 1;
+}
 
 TokenCmd* asCommand(Token* token)
 {
@@ -48,26 +54,44 @@ std::string capitalized(std::string word)
     return word;
 }
 
-std::string actionText(TokenCmd const& cmd) { return CmdAction::table().textFromVal(cmd.action); }
+std::string actionText(TokenCmd const& cmd)
+{
+    return CmdAction::table().textFromVal(cmd.action);
+}
 
-std::string itemText(TokenCmd const& cmd) { return CmdItem::table().textFromVal(cmd.item); }
+std::string itemText(TokenCmd const& cmd)
+{
+    return CmdItem::table().textFromVal(cmd.item);
+}
 
 } // namespace
 
 // ---- command texts --------------------------------------------------------
 
-std::string TokenCmd::ugOsPrompt() const { return "admin@localhost:~/> cli "; }
+std::string TokenCmd::ugOsPrompt() const
+{
+    return "admin@localhost:~/> cli ";
+}
 
-std::string TokenCmd::ugCommand() const { return actionText(*this) + " " + itemText(*this) + " "; }
+std::string TokenCmd::ugCommand() const
+{
+    return actionText(*this) + " " + itemText(*this) + " ";
+}
 
-std::string TokenCmd::ugCommandLowCase() const { return actionText(*this) + " " + itemText(*this); }
+std::string TokenCmd::ugCommandLowCase() const
+{
+    return actionText(*this) + " " + itemText(*this);
+}
 
 std::string TokenCmd::ugCommandCapitalized() const
 {
     return capitalized(actionText(*this)) + " " + capitalized(itemText(*this));
 }
 
-std::string TokenCmd::ugCommandPrompt() const { return "\n" + ugOsPrompt() + ugCommand(); }
+std::string TokenCmd::ugCommandPrompt() const
+{
+    return "\n" + ugOsPrompt() + ugCommand();
+}
 
 int TokenCmd::getConsoleWidth()
 {
@@ -85,8 +109,8 @@ bool TokenCmd::displayDetailedHelp(std::string& err) const
         outError(err);
         return false;
     }
-    std::string text = "\nSyntax: " + ugCommandLowCase() + "\n" + orBlank(helpSyntax) + "\n\nModifiers:\n" +
-                       orBlank(helpModifiers);
+    std::string text =
+        "\nSyntax: " + ugCommandLowCase() + "\n" + orBlank(helpSyntax) + "\n\nModifiers:\n" + orBlank(helpModifiers);
     if (hasNotes(*this))
         text += "\n\nNotes:\n" + helpNotes;
     text += "\n\nExamples: " + orBlank(helpExamples);
@@ -127,8 +151,8 @@ bool TokenRoot::displaySummaryHelp(std::string& err) const
     }
     std::string const stars(55, '*');
     text += "\n\n\n" + stars + "\n" + "* Modifiers common to all CLI commands\n" + stars + "\n" + commonModifierHelp() +
-            "\n\n\n" + "For more detail on any of these commands start CLI with\n" +
-            "the action and item followed by -help or -?\n";
+        "\n\n\n" + "For more detail on any of these commands start CLI with\n" +
+        "the action and item followed by -help or -?\n";
     return outDisplay(text, kHelpFileName, err);
 }
 
@@ -143,7 +167,10 @@ bool TokenRoot::displayConstraintHelp(std::string& err) const
     return outDisplay(text, kHelpFileName, err);
 }
 
-std::string TokenRoot::commonResultHelp() const { return resultFileLayoutHelp(); }
+std::string TokenRoot::commonResultHelp() const
+{
+    return resultFileLayoutHelp();
+}
 
 std::string TokenRoot::commonModifierHelp() const
 {
@@ -258,15 +285,9 @@ bool TokenCmd::outHelp(std::string const& text, int number, std::string const& b
         int part;
         std::string text;
     } const fragments[] = {
-        {-1, helpTitle},
-        {1, helpDescription},
-        {2, ugCommandLowCase()},
-        {3, helpSyntax},
-        {4, helpModifiers},
-        {5, helpNotes},
-        {6, ugCommandLowCase()},
-        {7, helpExamples},
-        {8, resultFileLayoutHelp() + " \n" + orBlank(helpResultFile)},
+        {-1, helpTitle},         {1, helpDescription}, {2, ugCommandLowCase()},
+        {3, helpSyntax},         {4, helpModifiers},   {5, helpNotes},
+        {6, ugCommandLowCase()}, {7, helpExamples},    {8, resultFileLayoutHelp() + " \n" + orBlank(helpResultFile)},
     };
     for (Fragment const& fragment : fragments)
         if (!writeHelp(baseName, number, fragment.part, orBlank(fragment.text)))

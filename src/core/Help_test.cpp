@@ -9,9 +9,10 @@ std::string const kStars(55, '*');
 
 std::string summaryTail(TokenRoot const& root)
 {
-    return "\n\n\n" + kStars + "\n* Modifiers common to all CLI commands\n" + kStars + "\n" + root.commonModifierHelp() +
-           "\n\n\nFor more detail on any of these commands start CLI with\nthe action and item followed by -help or "
-           "-?\n";
+    return "\n\n\n" + kStars + "\n* Modifiers common to all CLI commands\n" + kStars + "\n" +
+        root.commonModifierHelp() +
+        "\n\n\nFor more detail on any of these commands start CLI with\nthe action and item followed by -help or "
+        "-?\n";
 }
 
 } // namespace
@@ -21,8 +22,9 @@ using Help = CoreTreeTest;
 TEST_F(Help, SummaryOfAFirstRunShowsLunConfiguration)
 {
     EXPECT_EQ(0, run("? cli"));
-    EXPECT_EQ(0u, out.find("  Usage:\n    ? cli \n \n\n    clear display \n \n\n    create lun \n\t-size=<GB>\n\n"
-                           "    help cli \n"));
+    EXPECT_EQ(0u,
+              out.find("  Usage:\n    ? cli \n \n\n    clear display \n \n\n    create lun \n\t-size=<GB>\n\n"
+                       "    help cli \n"));
     EXPECT_EQ(out.size() - summaryTail(parser.root).size() - 1, out.find(summaryTail(parser.root)));
 }
 
@@ -136,9 +138,9 @@ TEST_F(Help, CommonModifierHelpNamesEveryCommonKeyword)
 {
     std::string const text = parser.root.commonModifierHelp();
     EXPECT_EQ(0u, text.find("\n-help\tDisplays detailed help for this command\n\n-zek = "));
-    for (char const* head : {"\n-agent=<IP address of host running remote agent>\n", "\n-demonstration_file = <File Name>\n",
-                             "\n-echo\n", "\n-quiet\n", "\n-show_only_error\n", "\n-textfile = <File Name>\n",
-                             "\n-result = <File Name>\n"})
+    for (char const* head :
+         {"\n-agent=<IP address of host running remote agent>\n", "\n-demonstration_file = <File Name>\n", "\n-echo\n",
+          "\n-quiet\n", "\n-show_only_error\n", "\n-textfile = <File Name>\n", "\n-result = <File Name>\n"})
         EXPECT_NE(std::string::npos, text.find(head)) << head;
     EXPECT_NE(std::string::npos, text.find("rmtagent_zek"));
     std::string const ending = "\tDefault location is the working directory\n\n";
@@ -180,16 +182,16 @@ TEST_F(Help, GeneratedDocumentationFragments)
     };
     for (int item = 0; item <= 8; ++item)
         expected.insert("cli" + n(item) + ".txt");
-    command("cli" + n(0), 1);             // ? cli
-    command("cli" + n(1), 1);             // clear display
-    command("cli" + n(2), 1);             // create lun
-    command("cli" + n(3), 1);             // help cli
-    command("cli" + n(3), 2);             // retval cli, same item
-    command("cli" + n(4), 1);             // set append
-    command("cli" + n(5), 1);             // show lun
-    command("cli" + n(6) + n(6), 1);      // show append: same action, new item
-    command("cli" + n(7), 1);             // version cli
-    command("cli" + n(8), 1);             // wait time
+    command("cli" + n(0), 1);        // ? cli
+    command("cli" + n(1), 1);        // clear display
+    command("cli" + n(2), 1);        // create lun
+    command("cli" + n(3), 1);        // help cli
+    command("cli" + n(3), 2);        // retval cli, same item
+    command("cli" + n(4), 1);        // set append
+    command("cli" + n(5), 1);        // show lun
+    command("cli" + n(6) + n(6), 1); // show append: same action, new item
+    command("cli" + n(7), 1);        // version cli
+    command("cli" + n(8), 1);        // wait time
     EXPECT_EQ(expected, names);
 
     EXPECT_EQ("cli", readWholeFile(base + n(0) + ".txt"));

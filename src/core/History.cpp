@@ -53,7 +53,10 @@ std::string localTimeText()
 
 } // namespace
 
-bool Parser::isCommandHistoryFileExists() { return access(historyPath.c_str(), R_OK | W_OK) == 0; }
+bool Parser::isCommandHistoryFileExists()
+{
+    return access(historyPath.c_str(), R_OK | W_OK) == 0;
+}
 
 // Successes, successes that need a restart, and partial successes are kept.
 void Parser::updateCommandHistory(int rc, std::string const&)

@@ -20,11 +20,20 @@ constexpr char const* kAppendRecursionText =
     "Command line got too long, most likely because -append=<name> expanded to a command line that "
     "included \"-append=<same set name>\", causing an infinite recursion";
 
-bool isKeywordPrefix(char c) { return c == '-' || c == '/'; }
+bool isKeywordPrefix(char c)
+{
+    return c == '-' || c == '/';
+}
 
-bool isValuePrefix(char c) { return c == '=' || c == ':'; }
+bool isValuePrefix(char c)
+{
+    return c == '=' || c == ':';
+}
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
 
 // A value that starts like a keyword is not a value: "-textfile=-quiet" is
 // -textfile with its default, then -quiet. A "-" before a digit is a sign.
@@ -37,7 +46,10 @@ bool looksLikeKeyword(std::string const& text)
     return text[0] == '-' && !(text.size() > 1 && isDigit(text[1]));
 }
 
-std::string quoted(std::string const& text) { return "\"" + text + "\""; }
+std::string quoted(std::string const& text)
+{
+    return "\"" + text + "\"";
+}
 
 // An argument "name=value" as it must appear in the folded command text, so
 // that the value survives the parser as one word.
@@ -53,7 +65,7 @@ std::string foldedArgument(std::string const& argument)
         value = first == std::string::npos ? std::string() : value.substr(first);
     }
     bool const needsQuotes = value.find_first_of(kBlankOrTab) != std::string::npos ||
-                             (!value.empty() && isKeywordPrefix(value[0]) && value.find('/') != std::string::npos);
+        (!value.empty() && isKeywordPrefix(value[0]) && value.find('/') != std::string::npos);
     if (needsQuotes)
         return argument.substr(0, equals) + "=" + quoted(value);
     return argument;
@@ -123,8 +135,7 @@ bool Parser::parseToken(std::string& line, std::string& token, char& prefix)
     return true;
 }
 
-bool Parser::parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, CmdItem::CMD_ITEM& item,
-                           std::string& err)
+bool Parser::parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, CmdItem::CMD_ITEM& item, std::string& err)
 {
     std::string token;
     char prefix = 0;
@@ -155,8 +166,7 @@ bool Parser::parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, Cmd
     return err.empty();
 }
 
-bool Parser::parseModifierToken(std::string& line, ModifierId::MODIFIER_ID& id, std::string& value,
-                                std::string& err)
+bool Parser::parseModifierToken(std::string& line, ModifierId::MODIFIER_ID& id, std::string& value, std::string& err)
 {
     id = ModifierId::MODIFIER_NONE;
     value.clear();
@@ -306,7 +316,10 @@ int Parser::parseCommandLine(std::string& err)
     return ZEKCLI_OK;
 }
 
-bool Parser::isReadyToExec() const { return currentCmd && currentCmd->verifyRequiredModifiersAreSet(); }
+bool Parser::isReadyToExec() const
+{
+    return currentCmd && currentCmd->verifyRequiredModifiersAreSet();
+}
 
 bool Parser::isHelpModifierOnCommandLine() const
 {

@@ -27,10 +27,8 @@ public:
     // Command text and parsing.
     void getCommandLine(int argc, char** argv);
     bool parseToken(std::string& line, std::string& token, char& prefix);
-    bool parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, CmdItem::CMD_ITEM& item,
-                       std::string& err);
-    bool parseModifierToken(std::string& line, ModifierId::MODIFIER_ID& id, std::string& value,
-                            std::string& err);
+    bool parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, CmdItem::CMD_ITEM& item, std::string& err);
+    bool parseModifierToken(std::string& line, ModifierId::MODIFIER_ID& id, std::string& value, std::string& err);
     bool specialHandlingForAppendModifier(bool isSetAppend, ModifierId::MODIFIER_ID& id, std::string& value,
                                           std::string& line, std::string& err);
     int parseCommandLine(std::string& err);

@@ -463,7 +463,10 @@ TEST(ParserHostile, BytesAboveAsciiAreOrdinaryText)
 TEST(ParserHostile, ControlCharactersAndStrayQuotes)
 {
     Tree tree;
-    EXPECT_EQ(tree.parse("show lun -lun_serial=a\x01" "b"), ZEKCLI_OK) << tree.err;
+    EXPECT_EQ(tree.parse("show lun -lun_serial=a\x01"
+                         "b"),
+              ZEKCLI_OK)
+        << tree.err;
     EXPECT_EQ(tree.parse("show lun 'x"), ZEKCLI_PARSE_FAIL);
     EXPECT_EQ(tree.err, "Parsing error near x" + kShowLunArrow);
     EXPECT_EQ(tree.parse("show lun -'lun_number'=5"), ZEKCLI_OK) << tree.err;
@@ -480,8 +483,9 @@ TEST(ParserReady, MissingRequiredKeywordIsReportedWithTheCommandSyntax)
     bool const ready = tree.parser.isReadyToExec();
     std::string const shown = testing::internal::GetCapturedStdout();
     EXPECT_FALSE(ready);
-    EXPECT_EQ(shown, "Error:  -compare modifier must be specified\n"
-                     "  Command syntax:\n    version adapter\n\t-compare=<version>\n\n");
+    EXPECT_EQ(shown,
+              "Error:  -compare modifier must be specified\n"
+              "  Command syntax:\n    version adapter\n\t-compare=<version>\n\n");
 }
 
 TEST(ParserReady, CommandWithItsRequiredKeywordsIsReady)

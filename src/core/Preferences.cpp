@@ -50,7 +50,10 @@ constexpr size_t kCOffset = 64;
 constexpr int32_t kHiddenGroupsFirstRun[] = {4, 5, 6, 7};
 constexpr int32_t kHiddenGroups[] = {3, 4, 5, 6, 7};
 
-void putInt32(unsigned char* at, int32_t value) { std::memcpy(at, &value, sizeof value); }
+void putInt32(unsigned char* at, int32_t value)
+{
+    std::memcpy(at, &value, sizeof value);
+}
 
 int32_t getInt32(unsigned char const* at)
 {
@@ -119,7 +122,10 @@ bool readChildOfCommand(FILE* file, Token* child)
     return child->baseInitFromPrefFile(file, childCount, a, b, c);
 }
 
-std::string preferencesPath() { return Parser::getHomeDirectory() + "/" + kPreferencesFileName; }
+std::string preferencesPath()
+{
+    return Parser::getHomeDirectory() + "/" + kPreferencesFileName;
+}
 
 } // namespace
 
@@ -136,7 +142,7 @@ bool Token::baseSaveToPrefFile(FILE* file, int a, int b, int c)
     putInt32(header + kBOffset, b);
     putInt32(header + kCOffset, c);
     return writeBytes(file, header, sizeof header) && writeBytes(file, value.data(), value.size()) &&
-           writeBytes(file, name.data(), name.size());
+        writeBytes(file, name.data(), name.size());
 }
 
 bool Token::baseInitFromPrefFile(FILE* file, unsigned int& childCount, int& a, int& b, int& c)
@@ -232,7 +238,8 @@ bool TokenRoot::saveToPrefFile(FILE* file)
 {
     if (!file)
         return false;
-    if (!writeBytes(file, disabledGroups, sizeof disabledGroups) || !writeBytes(file, hiddenGroups, sizeof hiddenGroups))
+    if (!writeBytes(file, disabledGroups, sizeof disabledGroups) ||
+        !writeBytes(file, hiddenGroups, sizeof hiddenGroups))
         return false;
     if (!baseSaveToPrefFile(file, 0, 0, 0) || !commonCommand.saveToPrefFile(file))
         return false;
@@ -254,8 +261,8 @@ bool TokenRoot::initFromPrefFile(FILE* file)
         setGroupTable(hiddenGroups, kHiddenGroupsFirstRun);
         return true;
     }
-    bool const tablesRead = readInt32s(file, disabledGroups, GROUP_TABLE_SIZE) &&
-                            readInt32s(file, hiddenGroups, GROUP_TABLE_SIZE);
+    bool const tablesRead =
+        readInt32s(file, disabledGroups, GROUP_TABLE_SIZE) && readInt32s(file, hiddenGroups, GROUP_TABLE_SIZE);
     std::fill(std::begin(disabledGroups), std::end(disabledGroups), 0);
     setGroupTable(hiddenGroups, kHiddenGroups);
     if (!tablesRead)
@@ -282,7 +289,10 @@ bool TokenRoot::initFromPrefFile(FILE* file)
 
 // ---- the file -------------------------------------------------------------
 
-std::string Parser::getHomeDirectory() { return hbaMgmt_getHomeDirectory(); }
+std::string Parser::getHomeDirectory()
+{
+    return hbaMgmt_getHomeDirectory();
+}
 
 void Parser::init()
 {

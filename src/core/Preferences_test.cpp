@@ -1,6 +1,6 @@
+#include <csignal>
 #include <cstring>
 #include <gtest/gtest.h>
-#include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -184,8 +184,7 @@ TEST_F(Preferences, DifferentCommandStopsTheRead)
     std::string bytes = saveTree(parser.root);
     // The first command's record, found by its action, item and group.
     int32_t const firstCommand[3] = {CmdAction::ACTION_QUESTION, CmdItem::ITEM_CLI, 1};
-    size_t const first =
-        bytes.find(std::string(reinterpret_cast<char const*>(firstCommand), sizeof firstCommand)) - 56;
+    size_t const first = bytes.find(std::string(reinterpret_cast<char const*>(firstCommand), sizeof firstCommand)) - 56;
     ASSERT_EQ(Token::TOKEN_TYPE_CMD, int32At(bytes, first));
     int32_t const otherItem = CmdItem::ITEM_LUN;
     std::memcpy(bytes.data() + first + 60, &otherItem, sizeof otherItem);
@@ -312,7 +311,9 @@ TEST_F(PreferencesFile, OnlyChangedPreferencesReplaceTheFile)
 TEST_F(PreferencesFile, FailedSaveKeepsTheOldFile)
 {
     std::string const path = dir.file("zekcli.ini");
-    { std::ofstream(path) << "old"; }
+    {
+        std::ofstream(path) << "old";
+    }
     auto const saveWithTooSmallLimit = [&] {
         signal(SIGXFSZ, SIG_IGN);
         struct rlimit const limit = {1000, 1000};

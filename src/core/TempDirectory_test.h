@@ -28,7 +28,7 @@ public:
     bool made() const { return !path.empty(); }
     std::string file(std::string const& name) const { return path + "/" + name; }
 
-    std::string path;   // empty when the directory could not be made
+    std::string path; // empty when the directory could not be made
 };
 
 // Sets the variable and gives it back its earlier value, or none, at the end

@@ -5,20 +5,22 @@
 #include <cerrno>
 #include <cstring>
 
-#include "core/TextRules.h"
 #include "core/ModifierId.h"
+#include "core/TextRules.h"
 
 namespace {
 
-bool isPrintableByte(unsigned char byte) { return byte >= 32 && byte <= 127; }
+bool isPrintableByte(unsigned char byte)
+{
+    return byte >= 32 && byte <= 127;
+}
 
 } // namespace
 
 TokenInitializer::TokenInitializer(TOKEN_INITIALIZER const& row)
     : treeLevel(row.treeLevel), tokenType(row.tokenType), name(row.name ? row.name : ""),
       value(row.value ? row.value : ""), id(row.id), second(row.second), third(row.third)
-{
-}
+{}
 
 void TokenInitializer::init()
 {
@@ -37,13 +39,22 @@ Token::~Token()
         delete child;
 }
 
-void Token::init(TokenInitializer const& row) { initTokenBase(row); }
+void Token::init(TokenInitializer const& row)
+{
+    initTokenBase(row);
+}
 
 void Token::outError(std::string const&) const {}
 
-bool Token::outDisplay(std::string const&, std::string&) const { return false; }
+bool Token::outDisplay(std::string const&, std::string&) const
+{
+    return false;
+}
 
-bool Token::outResult(void const*, unsigned long, std::string&) const { return false; }
+bool Token::outResult(void const*, unsigned long, std::string&) const
+{
+    return false;
+}
 
 void Token::myProgressMsg(int percent) const
 {

@@ -65,7 +65,7 @@ public:
         OPTIONAL = 2,
     };
     enum VALUE_KIND : int32_t {
-        VALUE_NONE = 0,     // a flag
+        VALUE_NONE = 0, // a flag
         VALUE_REQUIRED = 1,
         VALUE_OPTIONAL = 2, // the value may be left out
     };

@@ -42,7 +42,10 @@ TokenModifierString* asModifier(Token* token)
 
 } // namespace
 
-TokenCmd::TokenCmd() { tokenType = TOKEN_TYPE_CMD; }
+TokenCmd::TokenCmd()
+{
+    tokenType = TOKEN_TYPE_CMD;
+}
 
 void TokenCmd::init(TokenInitializer const& row)
 {
@@ -80,7 +83,10 @@ void TokenCmd::initModifiers(TokenInitializer::TOKEN_INITIALIZER const* rows)
     }
 }
 
-int TokenCmd::execCommand(std::string&) { return 1; }
+int TokenCmd::execCommand(std::string&)
+{
+    return 1;
+}
 
 std::string TokenCmd::cmdHelpText() const
 {
@@ -185,4 +191,7 @@ bool TokenCmd::readLineFromFilePointer(FILE* file, std::string& out)
     }
 }
 
-void TokenCmd::removeLeadingWhitespace(std::string& text) { dropLeadingWhitespace(text); }
+void TokenCmd::removeLeadingWhitespace(std::string& text)
+{
+    dropLeadingWhitespace(text);
+}

@@ -110,13 +110,11 @@ public:
     bool getLunIdFromCommandLine(HIsaAdapter* adapter, bool bDestination, bool bOneLunRequired,
                                  std::vector<PLunID>& luns, std::string& err);
     bool getLunIdListForLunNameFromCommandLine(HIsaAdapter* adapter, bool bDestination, bool& bNameGiven,
-                                               std::vector<PLunID>& luns, std::string& displayText,
-                                               std::string& err);
+                                               std::vector<PLunID>& luns, std::string& displayText, std::string& err);
     bool getLunIdListForOneLunNameType(HIsaAdapter* adapter, std::string const& name, PBase::LUN_NAME_TYPE type,
                                        PTargetID const& target, std::vector<PLunID>& luns, std::string& err);
     bool filterLunIdListToOnePerMulipathLun(HIsaAdapter* adapter, std::vector<PLunID>& luns, std::string& err);
-    void testLunRelatedModifiers(bool& bAny, bool& bRequired, bool& bNumberOrTarget, bool& bWwuln,
-                                 bool& bSerial) const;
+    void testLunRelatedModifiers(bool& bAny, bool& bRequired, bool& bNumberOrTarget, bool& bWwuln, bool& bSerial) const;
     void testTargetRelatedModifiers(bool& bAny, bool& bRequired) const;
     void testInitiatorRelatedModifiers(bool& bAny, bool& bRequired) const;
     void testDeviceRelatedModifiers(bool& bAny, bool& bRequired) const;

@@ -42,7 +42,10 @@ TokenInitializer::TOKEN_INITIALIZER const parseTreeCommonModifierInit[] = {
     {0, 0, "", "", 0, 0, 0},
 };
 
-TokenRoot::TokenRoot() { tokenType = TOKEN_TYPE_ROOT; }
+TokenRoot::TokenRoot()
+{
+    tokenType = TOKEN_TYPE_ROOT;
+}
 
 void TokenRoot::addCommonModifiersForAllCommands(TokenInitializer::TOKEN_INITIALIZER const* rows)
 {
@@ -62,7 +65,7 @@ TokenCmd* TokenRoot::findCmd(CmdAction::CMD_ACTION action, CmdItem::CMD_ITEM ite
             return cmd;
     }
     err = "\"" + CmdAction::table().textFromVal(action) + " " + CmdItem::table().textFromVal(item) +
-          "\" is not a valid command";
+        "\" is not a valid command";
     return nullptr;
 }
 
@@ -102,8 +105,7 @@ void TokenRoot::getListOfAvailableItemsForSpecificAction(CmdAction::CMD_ACTION a
         if (child->tokenType != TOKEN_TYPE_CMD)
             continue;
         TokenCmd const* const cmd = static_cast<TokenCmd const*>(child);
-        if (cmd->action == action && !isGroupHidden(cmd->commandGroup) &&
-            cmd->item != CmdItem::ITEM_CACHE_STATISTICS)
+        if (cmd->action == action && !isGroupHidden(cmd->commandGroup) && cmd->item != CmdItem::ITEM_CACHE_STATISTICS)
             appendOnce(items, cmd->item);
     }
 }

@@ -44,14 +44,16 @@ public:
     std::string answerText;
 };
 
-#define TESTTREE_LUN_SELECTORS                                                                                     \
-    {2, kKey, "", "", ModifierId::MODIFIER_LUN_WWULN, kOpt, kVal},                                                 \
-        {2, kKey, "", "", ModifierId::MODIFIER_LUN_ANY_WWULN, kOpt, kVal},                                         \
-        {2, kKey, "", "", ModifierId::MODIFIER_LUN_SERIAL, kOpt, kVal},                                            \
-        {2, kKey, "", "", ModifierId::MODIFIER_LUN_NUMBER, kOpt, kVal},                                            \
-        {2, kKey, "", "", ModifierId::MODIFIER_VPGINDEX, kOpt, kVal},                                              \
-        {2, kKey, "", "", ModifierId::MODIFIER_FC_TARGET, kOpt, kVal},                                             \
-        {2, kKey, "", "", ModifierId::MODIFIER_IS_TARGET, kOpt, kVal}
+#define TESTTREE_LUN_SELECTORS                                                                                         \
+    {2, kKey, "", "", ModifierId::MODIFIER_LUN_WWULN, kOpt, kVal},                                                     \
+        {2, kKey, "", "", ModifierId::MODIFIER_LUN_ANY_WWULN, kOpt, kVal},                                             \
+        {2, kKey, "", "", ModifierId::MODIFIER_LUN_SERIAL, kOpt, kVal},                                                \
+        {2, kKey, "", "", ModifierId::MODIFIER_LUN_NUMBER, kOpt, kVal},                                                \
+        {2, kKey, "", "", ModifierId::MODIFIER_VPGINDEX, kOpt, kVal},                                                  \
+        {2, kKey, "", "", ModifierId::MODIFIER_FC_TARGET, kOpt, kVal},                                                 \
+    {                                                                                                                  \
+        2, kKey, "", "", ModifierId::MODIFIER_IS_TARGET, kOpt, kVal                                                    \
+    }
 
 inline Row const kShowLun[] = {
     {1, kCmd, "", "", CmdAction::ACTION_SHOW, CmdItem::ITEM_LUN, 1},

@@ -4,15 +4,15 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <iterator>
 #include <cstdlib>
+#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/TempDirectory_test.h"
 #include "core/TokenCmd.h"
 #include "core/TokenRoot.h"
-#include "core/TempDirectory_test.h"
 #include "core/TokenTreeFixture.h"
 
 using namespace testtree;
@@ -127,9 +127,18 @@ TEST(TokenTree, CommonKeywordsAreDeclaredInOrder)
         int valueKind;
     };
     Expected const expected[] = {
-        {"zek", 1, 1},  {"agent", 2, 1},           {"help", 2, 2},     {"?", 0, 0},
-        {"echo", 2, 2}, {"quiet", 2, 2},           {"show_only_error", 2, 2}, {"textfile", 2, 2},
-        {"result", 2, 2}, {"append", 2, 1},        {"pw", 2, 1},       {"demonstration_file", 2, 1},
+        {"zek", 1, 1},
+        {"agent", 2, 1},
+        {"help", 2, 2},
+        {"?", 0, 0},
+        {"echo", 2, 2},
+        {"quiet", 2, 2},
+        {"show_only_error", 2, 2},
+        {"textfile", 2, 2},
+        {"result", 2, 2},
+        {"append", 2, 1},
+        {"pw", 2, 1},
+        {"demonstration_file", 2, 1},
     };
     ASSERT_EQ(common.children.size(), std::size(expected));
     for (size_t i = 0; i < std::size(expected); ++i) {
@@ -212,8 +221,7 @@ TEST(TokenTreeLookup, OwnDeclarationWins)
     TokenModifierString* zek = tree.showLun->findModifier(ModifierId::MODIFIER_ZEK, err);
     ASSERT_NE(zek, nullptr);
     EXPECT_EQ(zek->parent, tree.showLun);
-    EXPECT_EQ(tree.showHealth->findModifier(ModifierId::MODIFIER_ZEK, err)->parent,
-              &tree.parser.root.commonCommand);
+    EXPECT_EQ(tree.showHealth->findModifier(ModifierId::MODIFIER_ZEK, err)->parent, &tree.parser.root.commonCommand);
 }
 
 TEST(TokenTreeLookup, CommandOutsideATreeFindsOnlyItsOwnKeywords)
@@ -231,7 +239,7 @@ TEST(TokenTreeLookup, RelatedKeywordFamilies)
         TokenModifierString token;
         token.modifierId = id;
         return std::string(token.isTargetRelated() ? "T" : "") + (token.isLunRelated() ? "L" : "") +
-               (token.isInitiatorRelated() ? "I" : "") + (token.isDeviceRelated() ? "D" : "");
+            (token.isInitiatorRelated() ? "I" : "") + (token.isDeviceRelated() ? "D" : "");
     };
     EXPECT_EQ(keyword(ModifierId::MODIFIER_FC_TARGET), "TL");
     EXPECT_EQ(keyword(ModifierId::MODIFIER_IS_TARGET), "TL");
@@ -313,9 +321,10 @@ TEST(TokenTreeRoot, AvailableActionsAndItemsSkipHiddenGroups)
     root.hiddenGroups[0] = 3;
     std::vector<CmdAction::CMD_ACTION> actions;
     root.getListOfAvailableActions(actions);
-    EXPECT_EQ(actions, (std::vector<CmdAction::CMD_ACTION>{CmdAction::ACTION_SHOW, CmdAction::ACTION_VERSION,
-                                                           CmdAction::ACTION_HELP, CmdAction::ACTION_INTERACTIVE,
-                                                           CmdAction::ACTION_SET, CmdAction::ACTION_VIEW}));
+    EXPECT_EQ(actions,
+              (std::vector<CmdAction::CMD_ACTION>{CmdAction::ACTION_SHOW, CmdAction::ACTION_VERSION,
+                                                  CmdAction::ACTION_HELP, CmdAction::ACTION_INTERACTIVE,
+                                                  CmdAction::ACTION_SET, CmdAction::ACTION_VIEW}));
     root.hiddenGroups[0] = 0;
     actions.clear();
     root.getListOfAvailableActions(actions);

@@ -24,12 +24,18 @@ Entry& findOrAppend(std::vector<Entry>& entries, Key const& key, Key Entry::*fie
 std::string returnValueName(int rv)
 {
     switch (rv) {
-    case ZEKCLI_INIT_FAIL: return "ZEKCLI_INIT_FAIL";
-    case ZEKCLI_PARSE_FAIL: return "ZEKCLI_PARSE_FAIL";
-    case ZEKCLI_CONFIRM_FAIL: return "ZEKCLI_CONFIRM_FAIL";
-    case ZEKCLI_CMD_FAIL: return "ZEKCLI_CMD_FAIL";
-    case ZEKCLI_EXIT: return "ZEKCLI_EXIT";
-    default: return g_pHbaMgmtApi->returnCodeToText(rv);
+    case ZEKCLI_INIT_FAIL:
+        return "ZEKCLI_INIT_FAIL";
+    case ZEKCLI_PARSE_FAIL:
+        return "ZEKCLI_PARSE_FAIL";
+    case ZEKCLI_CONFIRM_FAIL:
+        return "ZEKCLI_CONFIRM_FAIL";
+    case ZEKCLI_CMD_FAIL:
+        return "ZEKCLI_CMD_FAIL";
+    case ZEKCLI_EXIT:
+        return "ZEKCLI_EXIT";
+    default:
+        return g_pHbaMgmtApi->returnCodeToText(rv);
     }
 }
 
@@ -82,7 +88,7 @@ std::string adapterText(ZekcliStatsPerIpAddress const& adapter)
                 successful += entry.iterations.size();
         }
     std::string text = "    IP = " + adapter.adapterText + "\n    " + std::to_string(attempted) +
-                       " commands attempted, " + std::to_string(successful) + " successful";
+        " commands attempted, " + std::to_string(successful) + " successful";
     if (attempted > successful)
         text += ", " + std::to_string(attempted - successful) + " failed";
     text += "\n";
@@ -98,7 +104,8 @@ void ZekcliStats::add(std::string const& adapter, std::string const& command, in
 {
     ZekcliStatsPerIpAddress& perAdapter = findOrAppend(adapters, adapter, &ZekcliStatsPerIpAddress::adapterText);
     ZekcliStatsPerCommand& perCommand = findOrAppend(perAdapter.commands, command, &ZekcliStatsPerCommand::commandName);
-    ZekcliStatsPerReturnValue& perValue = findOrAppend(perCommand.returnValues, rc, &ZekcliStatsPerReturnValue::returnValue);
+    ZekcliStatsPerReturnValue& perValue =
+        findOrAppend(perCommand.returnValues, rc, &ZekcliStatsPerReturnValue::returnValue);
     perValue.iterations.push_back(iteration);
 }
 

@@ -75,8 +75,9 @@ TEST(ZekcliStats, LongListsWrapAfterEveryEighthNumber)
     for (unsigned int line = 1; line <= 17; ++line)
         stats.add("", "show lun", 54, line);
     std::string const wrap = "\n" + std::string(20, ' ');
-    EXPECT_NE(std::string::npos, stats.displayText().find("            ZEKCLI_CMD_FAIL at lines 1, 2, 3, 4, 5, 6, 7, 8, " +
-                                                          wrap + "9, 10, 11, 12, 13, 14, 15, 16, " + wrap + "17\n"));
+    EXPECT_NE(std::string::npos,
+              stats.displayText().find("            ZEKCLI_CMD_FAIL at lines 1, 2, 3, 4, 5, 6, 7, 8, " + wrap +
+                                       "9, 10, 11, 12, 13, 14, 15, 16, " + wrap + "17\n"));
 }
 
 TEST(ZekcliStats, EmptyReport)

@@ -17,13 +17,13 @@ CmdZekcliInteractive::CmdZekcliInteractive()
 {
     declareCommand(*this, rows);
     helpTitle = "Interactive CLI";
-    helpDescription = "Starts menu-driven interactive mode: choose an action, an item, an adapter and the keywords from "
+    helpDescription =
+        "Starts menu-driven interactive mode: choose an action, an item, an adapter and the keywords from "
         "numbered menus. The equivalent command line is shown as it grows.";
     helpSyntax = "\t[-zek=<adapter>]";
     helpModifiers = "-zek=<adapter>\n"
-        "\tAdapter offered first in the adapter menu.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-zek=0";
+                    "\tAdapter offered first in the adapter menu.";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-zek=0";
     helpNotes = "Enter q at any menu to quit, m for the main menu, h or ? for help.";
 }
 

@@ -8,8 +8,7 @@ KAdapterGroupExtendedLunInfo::KAdapterGroupExtendedLunInfo() : PBase()
     init();
 }
 
-KAdapterGroupExtendedLunInfo::KAdapterGroupExtendedLunInfo(const KAdapterGroupExtendedLunInfo& other)
-    : PBase()
+KAdapterGroupExtendedLunInfo::KAdapterGroupExtendedLunInfo(const KAdapterGroupExtendedLunInfo& other) : PBase()
 {
     init();
     *this = other;
@@ -21,8 +20,7 @@ KAdapterGroupExtendedLunInfo& KAdapterGroupExtendedLunInfo::operator=(const KAda
         init();
         wwulnLunId = other.wwulnLunId;
         lunId = other.lunId;
-        fastMemcpy(&ui32NonCachedAdapterCount, scalarBlockSize(), &other.ui32NonCachedAdapterCount,
-                   scalarBlockSize());
+        fastMemcpy(&ui32NonCachedAdapterCount, scalarBlockSize(), &other.ui32NonCachedAdapterCount, scalarBlockSize());
     }
     return *this;
 }
@@ -54,8 +52,7 @@ bool KAdapterGroupExtendedLunInfo::serialize(bool write, FILE* file, std::string
         return false;
     if (!write)
         lunId.afterRestoreFromSaveString();
-    return base_serialize(write, file, reinterpret_cast<char*>(&ui32NonCachedAdapterCount), scalarBlockSize(),
-                          error);
+    return base_serialize(write, file, reinterpret_cast<char*>(&ui32NonCachedAdapterCount), scalarBlockSize(), error);
 }
 
 // A count beyond the table can only come from a damaged record.
@@ -119,8 +116,7 @@ std::string KAdapterGroupExtendedLunInfo::displayHeaderText(const PIpAddress& ag
 {
     // Every line starts alike; it is made once, as a LUN seen by many
     // adapters has many lines and a SAN many LUNs.
-    const std::string lineStart =
-        agent.getType() == 0 ? "    -zek=" : "    -agent=" + agent.displayText() + " -zek=";
+    const std::string lineStart = agent.getType() == 0 ? "    -zek=" : "    -agent=" + agent.displayText() + " -zek=";
     std::string text = "Adapters with access to this LUN:\n";
     if (bCached) {
         text += lineStart;

@@ -30,7 +30,7 @@ KLunInfo view(KLunInfo::KISA_CACHE_STATE state, bool online = true)
     return info;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KAdapterGroupExtendedLunInfo, InitClearsEverything)
 {
@@ -117,7 +117,7 @@ TEST(KAdapterGroupExtendedLunInfo, StateZeroAndOfflineViewsDoNotNameTheLun)
     EXPECT_EQ(group.ui32NonCachedAdapterCount, 1u);
     group.addInfoForOneLun(kAdapterB, lunA, view(KLunInfo::CACHE_STATE_UNKNOWN), Rank(2));
     EXPECT_EQ(group.ui32NonCachedAdapterCount, 1u);
-    EXPECT_TRUE(group.lunId == lunA);  // valid and online, and nobody caches
+    EXPECT_TRUE(group.lunId == lunA); // valid and online, and nobody caches
     EXPECT_EQ(group.ui64PreferredAdapter, kAdapterB);
 }
 
@@ -139,10 +139,11 @@ TEST(KAdapterGroupExtendedLunInfo, HeaderWithoutAgent)
     group.ui32NonCachedAdapterCount = 2;
     group.ui64NonCachedAdapters[0] = 0x2000A;
     group.ui64NonCachedAdapters[1] = 0x1F;
-    EXPECT_EQ(group.displayHeaderText(PIpAddress()), "Adapters with access to this LUN:\n"
-                                                     "    -zek=2000ABCD  [Caching Adapter]\n"
-                                                     "    -zek=2000A\n"
-                                                     "    -zek=1F\n");
+    EXPECT_EQ(group.displayHeaderText(PIpAddress()),
+              "Adapters with access to this LUN:\n"
+              "    -zek=2000ABCD  [Caching Adapter]\n"
+              "    -zek=2000A\n"
+              "    -zek=1F\n");
 }
 
 TEST(KAdapterGroupExtendedLunInfo, HeaderThroughAnAgent)
@@ -153,8 +154,9 @@ TEST(KAdapterGroupExtendedLunInfo, HeaderThroughAnAgent)
     PIpAddress agent;
     agent.setType(PIpAddress::IPV_SHORT_1);
     agent.setNumericText("127.0.10.1", "");
-    EXPECT_EQ(group.displayHeaderText(agent), "Adapters with access to this LUN:\n"
-                                              "    -agent=127.0.10.1 -zek=2000A\n");
+    EXPECT_EQ(group.displayHeaderText(agent),
+              "Adapters with access to this LUN:\n"
+              "    -agent=127.0.10.1 -zek=2000A\n");
 }
 
 TEST(KAdapterGroupExtendedLunInfo, TextNamesTheLunAndItsAdapters)
@@ -167,15 +169,15 @@ TEST(KAdapterGroupExtendedLunInfo, TextNamesTheLunAndItsAdapters)
     group.ui64CachingAdapter = 0x2000C;
     group.ui32NonCachedAdapterCount = 1;
     group.ui64NonCachedAdapters[0] = 0x2000A;
-    EXPECT_EQ(group.displayText(), "    WWULN: " + group.wwulnLunId.displayText() + "\n    " +
-                                       group.lunId.displayText() +
-                                       "\n    Cached on -zek=2000C"
-                                       "\n    Non-cached access from:"
-                                       "\n        -zek=2000A\n");
+    EXPECT_EQ(group.displayText(),
+              "    WWULN: " + group.wwulnLunId.displayText() + "\n    " + group.lunId.displayText() +
+                  "\n    Cached on -zek=2000C"
+                  "\n    Non-cached access from:"
+                  "\n        -zek=2000A\n");
     group.bCached = false;
     group.ui32NonCachedAdapterCount = 0;
-    EXPECT_EQ(group.displayText(), "    WWULN: AABB-CC\n    " + group.lunId.displayText() +
-                                       "\n    Non-cached access from:\n");
+    EXPECT_EQ(group.displayText(),
+              "    WWULN: AABB-CC\n    " + group.lunId.displayText() + "\n    Non-cached access from:\n");
 }
 
 TEST(KAdapterGroupExtendedLunInfo, SavedImageKeepsTheIdentifiers)
@@ -183,8 +185,8 @@ TEST(KAdapterGroupExtendedLunInfo, SavedImageKeepsTheIdentifiers)
     KAdapterGroupExtendedLunInfo group;
     unsigned char name[3] = {0xAA, 0xBB, 0xCC};
     group.wwulnLunId.initWwulnLunID(PBase::WWULN_CODE_SET_BINARY, 3, name);
-    group.addInfoForOneLun(kAdapterA, lunOn("21:00:00:24:ff:00:00:0a", 4),
-                           view(KLunInfo::CACHE_STATE_CACHED_LOCAL), Rank(1));
+    group.addInfoForOneLun(kAdapterA, lunOn("21:00:00:24:ff:00:00:0a", 4), view(KLunInfo::CACHE_STATE_CACHED_LOCAL),
+                           Rank(1));
     FILE* f = tmpfile();
     ASSERT_NE(f, nullptr);
     std::string err;
@@ -203,8 +205,8 @@ TEST(KAdapterGroupExtendedLunInfo, SavedImageKeepsTheIdentifiers)
 TEST(KAdapterGroupExtendedLunInfo, CopyTakesIdentifiersAndFigures)
 {
     KAdapterGroupExtendedLunInfo group;
-    group.addInfoForOneLun(kAdapterA, lunOn("21:00:00:24:ff:00:00:0a", 4),
-                           view(KLunInfo::CACHE_STATE_NOT_CACHED), Rank(1));
+    group.addInfoForOneLun(kAdapterA, lunOn("21:00:00:24:ff:00:00:0a", 4), view(KLunInfo::CACHE_STATE_NOT_CACHED),
+                           Rank(1));
     KAdapterGroupExtendedLunInfo copy(group);
     EXPECT_EQ(copy.displayText(), group.displayText());
     EXPECT_EQ(copy.ui64PreferredAdapter, kAdapterA);

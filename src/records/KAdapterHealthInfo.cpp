@@ -8,8 +8,8 @@ namespace {
 
 // Each table ends with an empty text.
 const char* const kInternalDriverNames[] = {
-    "ADAPTER", "LED", "ENDPOINT", "BRAPP", "FC", "SCSIMID",
-    "MV94XX", "MPTSAS", "MPI32XX", "MVIDMA", "MVXDMA", "BBRAM", "",
+    "ADAPTER", "LED",     "ENDPOINT", "BRAPP",  "FC",    "SCSIMID", "MV94XX",
+    "MPTSAS",  "MPI32XX", "MVIDMA",   "MVXDMA", "BBRAM", "",
 };
 
 const char* const kBridgeParityErrors[] = {
@@ -127,7 +127,7 @@ std::string junctionLine(const char* label, int32_t temperature)
     return temperature != 0 ? label + PBase::numberToText(temperature) + " (Centigrade)" : std::string();
 }
 
-}  // namespace
+} // namespace
 
 // ---- KAdapterHealthPciExpressInfo ----------------------------------------------
 
@@ -136,15 +136,13 @@ KAdapterHealthPciExpressInfo::KAdapterHealthPciExpressInfo() : PBase()
     init();
 }
 
-KAdapterHealthPciExpressInfo::KAdapterHealthPciExpressInfo(const KAdapterHealthPciExpressInfo& other)
-    : PBase()
+KAdapterHealthPciExpressInfo::KAdapterHealthPciExpressInfo(const KAdapterHealthPciExpressInfo& other) : PBase()
 {
     init();
     *this = other;
 }
 
-KAdapterHealthPciExpressInfo& KAdapterHealthPciExpressInfo::operator=(
-    const KAdapterHealthPciExpressInfo& other)
+KAdapterHealthPciExpressInfo& KAdapterHealthPciExpressInfo::operator=(const KAdapterHealthPciExpressInfo& other)
 {
     if (this != &other) {
         init();
@@ -177,31 +175,44 @@ void KAdapterHealthPciExpressInfo::init()
 std::string KAdapterHealthPciExpressInfo::linkWidthToText(PEX_LINK_WIDTH width)
 {
     switch (width) {
-    case PEX_LINK_WIDTH_UNKNOWN: return "Unknown";
-    case PEX_LINK_WIDTH_X1: return "1x1";
-    case PEX_LINK_WIDTH_X4: return "4x4";
-    default: return "UNKNOWN";
+    case PEX_LINK_WIDTH_UNKNOWN:
+        return "Unknown";
+    case PEX_LINK_WIDTH_X1:
+        return "1x1";
+    case PEX_LINK_WIDTH_X4:
+        return "4x4";
+    default:
+        return "UNKNOWN";
     }
 }
 
 std::string KAdapterHealthPciExpressInfo::linkSpeedToText(PEX_LINK_SPEED speed)
 {
     switch (speed) {
-    case PEX_LINK_SPEED_UNKNOWN: return "Unknown";
-    case PEX_LINK_SPEED_GEN1: return "GEN 1 (2.5 Gbits/sec)";
-    case PEX_LINK_SPEED_GEN2: return "GEN 2 (5.0 Gbits/sec)";
-    default: return "UNKNOWN";
+    case PEX_LINK_SPEED_UNKNOWN:
+        return "Unknown";
+    case PEX_LINK_SPEED_GEN1:
+        return "GEN 1 (2.5 Gbits/sec)";
+    case PEX_LINK_SPEED_GEN2:
+        return "GEN 2 (5.0 Gbits/sec)";
+    default:
+        return "UNKNOWN";
     }
 }
 
 std::string KAdapterHealthPciExpressInfo::linkStatusToText(PEX_LINK_STATUS status)
 {
     switch (status) {
-    case PEX_LINK_DOWN: return "LINK_DOWN";
-    case PEX_LINK_UP: return "LINK_UP";
-    case PEX_LINK_DISABLED: return "(Disabled)";
-    case PEX_LINK_UNKNOWN: return "Unknown";
-    default: return "UNKNOWN";
+    case PEX_LINK_DOWN:
+        return "LINK_DOWN";
+    case PEX_LINK_UP:
+        return "LINK_UP";
+    case PEX_LINK_DISABLED:
+        return "(Disabled)";
+    case PEX_LINK_UNKNOWN:
+        return "Unknown";
+    default:
+        return "UNKNOWN";
     }
 }
 
@@ -231,11 +242,17 @@ std::string KAdapterHealthPciExpressInfo::linkUpText() const
     switch (deviceId) {
     case 0:
     case 0x2831:
-    case 0xF002: text += " (Redwing)"; break;
+    case 0xF002:
+        text += " (Redwing)";
+        break;
     case 0x2533:
     case 0x9445:
-    case 0xF001: text += " (Bluestem)"; break;
-    default: text += " (Bluestem?)"; break;
+    case 0xF001:
+        text += " (Bluestem)";
+        break;
+    default:
+        text += " (Bluestem?)";
+        break;
     }
     text += "\n        " + linkSpeedToText(linkSpeed);
     text += "\n        " + linkWidthToText(linkWidth);
@@ -303,15 +320,14 @@ bool KAdapterHealthInfo::isBeaconFlashing(int port) const
 std::string KAdapterHealthInfo::systemUptimeToText(unsigned int seconds)
 {
     return numberToText(static_cast<int>((seconds / 3600) % 24)) + ":" +
-           numberToText(static_cast<int>((seconds / 60) % 60)) + ":" +
-           numberToText(static_cast<int>(seconds % 60));
+        numberToText(static_cast<int>((seconds / 60) % 60)) + ":" + numberToText(static_cast<int>(seconds % 60));
 }
 
 std::string KAdapterHealthInfo::displayText() const
 {
     // The third link is internal and not reported.
-    std::string text = pciExpressInfo[0].displayText() + pciExpressInfo[1].displayText() +
-                       pciExpressInfo[3].displayText();
+    std::string text =
+        pciExpressInfo[0].displayText() + pciExpressInfo[1].displayText() + pciExpressInfo[3].displayText();
     text += temperaturesText();
     text += beaconsText();
     text += errorCountsText();
@@ -325,7 +341,7 @@ std::string KAdapterHealthInfo::displayText() const
 std::string KAdapterHealthInfo::temperaturesText() const
 {
     std::string text = "    Temperature (Front/Rear/CPU): " + numberToText(temperatureFront) + " / " +
-                       numberToText(temperatureRear) + " / " + numberToText(temperatureCpu) + " (Centigrade)";
+        numberToText(temperatureRear) + " / " + numberToText(temperatureCpu) + " (Centigrade)";
     text += junctionLine("\n    Temperature (NVDIMM Junction): ", temperatureNvdimm);
     text += junctionLine("\n    Temperature (FC Chip Junction): ", temperatureFcChip);
     return text;
@@ -344,21 +360,22 @@ std::string KAdapterHealthInfo::beaconsText() const
 std::string KAdapterHealthInfo::errorCountsText() const
 {
     return countLine("\n    DramEccSingleBitErrorCount:   ", dramEccSingleBitErrorCount) +
-           countLine("\n    DramEccDoubleBitErrorCount:   ", dramEccDoubleBitErrorCount) +
-           countLine("\n    L2CacheUncorrectableErrorCnt: ", l2CacheUncorrectableErrorCount) +
-           countLine("\n    L2CacheCorrectableErrorCount: ", l2CacheCorrectableErrorCount);
+        countLine("\n    DramEccDoubleBitErrorCount:   ", dramEccDoubleBitErrorCount) +
+        countLine("\n    L2CacheUncorrectableErrorCnt: ", l2CacheUncorrectableErrorCount) +
+        countLine("\n    L2CacheCorrectableErrorCount: ", l2CacheCorrectableErrorCount);
 }
 
 std::string KAdapterHealthInfo::driversText() const
 {
     return "\n    Internal drivers loaded OK:   " + namesByBit(kInternalDriverNames, driversLoadedMask, true, 0) +
-           "\n    Internal drivers not loaded:  " + namesByBit(kInternalDriverNames, driversLoadedMask, false, 0);
+        "\n    Internal drivers not loaded:  " + namesByBit(kInternalDriverNames, driversLoadedMask, false, 0);
 }
 
 std::string KAdapterHealthInfo::hardwareErrorsText() const
 {
     // Bit 0 of the error mask is not an error of its own and is never shown.
-    std::string text = alarmsByBit(kBridgeParityErrors, bridgeParityMask, 0) + alarmsByBit(kHardwareErrors, errorMask, 1);
+    std::string text =
+        alarmsByBit(kBridgeParityErrors, bridgeParityMask, 0) + alarmsByBit(kHardwareErrors, errorMask, 1);
     if (snoopFilterParityError)
         text += "\n    *** Snoop Filter Parity Error ***";
     if (l2CacheTagParityError)
@@ -385,8 +402,8 @@ std::string KAdapterHealthInfo::partitionResetsText() const
     std::string text;
     for (unsigned int i = 0; i < FS_PARTITIONS; ++i) {
         if (fsPartitionResetCount[i] != 0)
-            text += "    FS Partition[" + numberToText(static_cast<int>(i)) + "] Reset Count = " +
-                    numberToText(fsPartitionResetCount[i]) + "\n";
+            text += "    FS Partition[" + numberToText(static_cast<int>(i)) +
+                "] Reset Count = " + numberToText(fsPartitionResetCount[i]) + "\n";
     }
     return text;
 }

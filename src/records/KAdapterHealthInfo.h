@@ -77,7 +77,7 @@ public:
     static std::string systemUptimeToText(unsigned int seconds);
 
     KAdapterHealthPciExpressInfo pciExpressInfo[PCI_EXPRESS_PORTS];
-    int32_t temperatureFront;  // degrees Centigrade, like the other temperatures
+    int32_t temperatureFront; // degrees Centigrade, like the other temperatures
     int32_t temperatureRear;
     int32_t temperatureCpu;
     uint32_t beaconPortMask;
@@ -91,8 +91,8 @@ public:
     bool snoopFilterParityError;
     bool l2CacheTagParityError;
     int32_t bootedFromSecondaryImage;
-    int32_t failedPostTest;  // 0: none failed
-    int32_t temperatureNvdimm;  // 0: no such sensor
+    int32_t failedPostTest;    // 0: none failed
+    int32_t temperatureNvdimm; // 0: no such sensor
     int32_t temperatureFcChip;
     uint32_t systemUptimeSeconds;
     uint16_t fsPartitionResetCount[FS_PARTITIONS];

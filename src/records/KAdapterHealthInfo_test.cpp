@@ -32,12 +32,11 @@ const char* const kAllDriversNotLoaded =
     "\n    Internal drivers not loaded:  ADAPTER, LED, ENDPOINT, BRAPP, FC, SCSIMID, MV94XX, MPTSAS, MPI32XX, "
     "MVIDMA, MVXDMA, BBRAM";
 
-const char* const kBlankLinks =
-    "    PCIe port 0\n        Unknown\n"
-    "    PCIe port 0\n        Unknown\n"
-    "    PCIe port 0\n        Unknown\n";
+const char* const kBlankLinks = "    PCIe port 0\n        Unknown\n"
+                                "    PCIe port 0\n        Unknown\n"
+                                "    PCIe port 0\n        Unknown\n";
 
-}  // namespace
+} // namespace
 
 TEST(KAdapterHealthPciExpressInfo, LinkWidthTable)
 {
@@ -237,8 +236,7 @@ TEST(KAdapterHealthInfo, PostTestNames)
     health.failedPostTest = 1;
     EXPECT_NE(health.displayText().find("\n    *** POST test #1 failed (UART test) ***\n"), std::string::npos);
     health.failedPostTest = 7;
-    EXPECT_NE(health.displayText().find("\n    *** POST test #7 failed ((Not Used) 7 test) ***\n"),
-              std::string::npos);
+    EXPECT_NE(health.displayText().find("\n    *** POST test #7 failed ((Not Used) 7 test) ***\n"), std::string::npos);
     health.failedPostTest = 20;
     EXPECT_NE(health.displayText().find("\n    *** POST test #20 failed (Nand Bad Block test) ***\n"),
               std::string::npos);

@@ -47,13 +47,13 @@ std::string KCacheStatistics::displayText() const
     std::string text = "    [Global Cache Statistics]\n\n";
     text += "    Total Cache Capacity             = " + longlongToMByteText(totalCapacity);
     text += "\n    Cache Capacity Used (SSD+RAM)    = " + longlongToMByteText(usedCapacity) + "\t(" +
-            hundredthsToText(usedPercent) + "% of capacity)";
+        hundredthsToText(usedPercent) + "% of capacity)";
     text += "\n    Read Data                        = " + longlongToMByteText(readData);
     text += "\n    Cache Hits (Read Load)           = " + longlongToMByteText(readLoadHits) + "\t(" +
-            hundredthsToText(readLoadPercent) + "% of Read Data)";
+        hundredthsToText(readLoadPercent) + "% of Read Data)";
     text += "\n    Cache Hits (Write Load)          = " + longlongToMByteText(writeLoadHits) + "\t(" +
-            hundredthsToText(writeLoadPercent) + "% of Read Data)";
-    text += "\n    Cache Hits (Total)               = " + longlongToMByteText(readLoadHits + writeLoadHits) +
-            "\t(" + hundredthsToText(hitsPercent) + "% of Read Data)";
+        hundredthsToText(writeLoadPercent) + "% of Read Data)";
+    text += "\n    Cache Hits (Total)               = " + longlongToMByteText(readLoadHits + writeLoadHits) + "\t(" +
+        hundredthsToText(hitsPercent) + "% of Read Data)";
     return text + "\n";
 }

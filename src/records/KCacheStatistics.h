@@ -18,7 +18,7 @@ public:
     // remainder, without padding (5 reads "0.5").
     static std::string hundredthsToText(unsigned long long hundredths);
 
-    uint64_t totalCapacity;  // bytes, like the other sizes
+    uint64_t totalCapacity; // bytes, like the other sizes
     uint64_t usedCapacity;
     uint64_t readData;
     uint64_t writeLoadHits;

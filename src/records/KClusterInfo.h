@@ -16,8 +16,8 @@ public:
     void init() override;
     std::string displayText() const override;
 
-    uint64_t primaryAdapterId;    // 0: none
-    uint64_t secondaryAdapterId;  // 0: none
+    uint64_t primaryAdapterId;   // 0: none
+    uint64_t secondaryAdapterId; // 0: none
 };
 
 static_assert(sizeof(KClusterInfo) == 40, "cluster image");

@@ -37,4 +37,4 @@ TEST(KClusterInfo, ImageAndCopy)
     EXPECT_EQ(info.displayText(), copy.displayText());
 }
 
-}  // namespace
+} // namespace

@@ -43,7 +43,7 @@ bool KDeviceInfo::serialize(bool write, FILE* file, std::string& error)
 {
     return base_serialize(write, file, reinterpret_cast<char*>(&isTarget),
                           static_cast<unsigned int>(&isInternal + 1 - &isTarget), error) &&
-           target.serialize(write, file, error) && initiator.serialize(write, file, error);
+        target.serialize(write, file, error) && initiator.serialize(write, file, error);
 }
 
 std::string KDeviceInfo::displayText() const

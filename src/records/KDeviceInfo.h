@@ -16,9 +16,9 @@ public:
     bool serialize(bool write, FILE* file, std::string& error) override;
     std::string displayText() const override;
 
-    bool isTarget;     // target is valid
-    bool isInitiator;  // initiator is valid
-    bool isInternal;   // the adapter's own device, hidden from lists
+    bool isTarget;    // target is valid
+    bool isInitiator; // initiator is valid
+    bool isInternal;  // the adapter's own device, hidden from lists
     KTargetInfo target;
     KInitiatorInfo initiator;
 };

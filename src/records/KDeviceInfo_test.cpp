@@ -21,7 +21,7 @@ KDeviceInfo bothSides()
     return device;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KDeviceInfo, NeitherSideIsUndefined)
 {

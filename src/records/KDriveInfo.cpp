@@ -13,7 +13,7 @@ std::string boundedText(const char* field, size_t size)
     return std::string(field, strnlen(field, size));
 }
 
-}  // namespace
+} // namespace
 
 KDriveInfo::KDriveInfo() : PBase()
 {
@@ -59,10 +59,14 @@ bool KDriveInfo::serialize(bool write, FILE* file, std::string& error)
 std::string KDriveInfo::driveStateToText(DRIVE_STATUS_TYPE state)
 {
     switch (state) {
-    case DRIVE_STATUS_UNKNOWN: return "Unknown";
-    case DRIVE_STATUS_UNCONFIGURED: return "Unconfigured";
-    case DRIVE_STATUS_CONFIGURED: return "Configured";
-    default: return "UNKNOWN";
+    case DRIVE_STATUS_UNKNOWN:
+        return "Unknown";
+    case DRIVE_STATUS_UNCONFIGURED:
+        return "Unconfigured";
+    case DRIVE_STATUS_CONFIGURED:
+        return "Configured";
+    default:
+        return "UNKNOWN";
     }
 }
 

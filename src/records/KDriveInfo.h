@@ -30,7 +30,7 @@ public:
     char revision[5];
     char serialNumber[33];
     uint64_t sizeBytes;
-    uint64_t ownerId;  // adapter identifier of the owner
+    uint64_t ownerId; // adapter identifier of the owner
     DRIVE_STATUS_TYPE driveStatus;
     bool isOnline;
     bool isPcieSsd;

@@ -20,18 +20,17 @@ KDriveInfo onlineDrive()
     return drive;
 }
 
-const char* const kOnlineText =
-    "        Configured"
-    "\n        Owner ID =       2000001B32A0C0DE"
-    "\n        State =          Online"
-    "\n        Size =           200GB"
-    "\n        Vendor ID =      ZEKSSD"
-    "\n        Product ID =     FastCache 200"
-    "\n        Revision =       A1"
-    "\n        Serial Number =  SN0042"
-    "\n";
+const char* const kOnlineText = "        Configured"
+                                "\n        Owner ID =       2000001B32A0C0DE"
+                                "\n        State =          Online"
+                                "\n        Size =           200GB"
+                                "\n        Vendor ID =      ZEKSSD"
+                                "\n        Product ID =     FastCache 200"
+                                "\n        Revision =       A1"
+                                "\n        Serial Number =  SN0042"
+                                "\n";
 
-}  // namespace
+} // namespace
 
 TEST(KDriveInfo, StateTable)
 {

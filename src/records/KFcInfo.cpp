@@ -41,52 +41,74 @@ void KFcInfo::init()
 std::string KFcInfo::fcModeToText(FC_MODE mode)
 {
     switch (mode) {
-    case FC_MODE_FCP: return "FCP";
-    case FC_MODE_FRAME_SHUTTLE: return "Frame Shuttle";
-    case FC_MODE_FCOE: return "FCOE";
-    default: return "Unknown";
+    case FC_MODE_FCP:
+        return "FCP";
+    case FC_MODE_FRAME_SHUTTLE:
+        return "Frame Shuttle";
+    case FC_MODE_FCOE:
+        return "FCOE";
+    default:
+        return "Unknown";
     }
 }
 
 std::string KFcInfo::connectionModeToText(CONNECTION_MODE mode)
 {
     switch (mode) {
-    case CONNECTION_MODE_LOOP: return "Loop";
-    case CONNECTION_MODE_POINT_TO_POINT: return "Point-to-Point";
-    default: return "Unknown";
+    case CONNECTION_MODE_LOOP:
+        return "Loop";
+    case CONNECTION_MODE_POINT_TO_POINT:
+        return "Point-to-Point";
+    default:
+        return "Unknown";
     }
 }
 
 std::string KFcInfo::pgmdConnectionOptionToText(PROGRAMMED_CONNECTION_OPTION option)
 {
     switch (option) {
-    case CONNECTION_OPTION_LOOP_ONLY: return "Loop Only";
-    case CONNECTION_OPTION_POINT_TO_POINT_ONLY: return "Point-to-Point Only";
-    case CONNECTION_OPTION_AUTO: return "Auto";
-    default: return "Unknown";
+    case CONNECTION_OPTION_LOOP_ONLY:
+        return "Loop Only";
+    case CONNECTION_OPTION_POINT_TO_POINT_ONLY:
+        return "Point-to-Point Only";
+    case CONNECTION_OPTION_AUTO:
+        return "Auto";
+    default:
+        return "Unknown";
     }
 }
 
 std::string KFcInfo::pgmdFrameSizeToText(FRAME_SIZE_TYPE size)
 {
     switch (size) {
-    case FRAME_SIZE_512: return "512";
-    case FRAME_SIZE_1024: return "1024";
-    case FRAME_SIZE_2048: return "2048";
-    default: return "Unknown";
+    case FRAME_SIZE_512:
+        return "512";
+    case FRAME_SIZE_1024:
+        return "1024";
+    case FRAME_SIZE_2048:
+        return "2048";
+    default:
+        return "Unknown";
     }
 }
 
 std::string KFcInfo::sfpStateToText(SFP_STATE state)
 {
     switch (state) {
-    case SFP_STATE_NOT_PRESENT: return "Not Present";
-    case SFP_STATE_4GB: return "4Gb";
-    case SFP_STATE_8GB: return "8Gb";
-    case SFP_STATE_4GB_MISMATCH: return "4Gb Mismatch";
-    case SFP_STATE_8GB_MISMATCH: return "8Gb Mismatch";
-    case SFP_STATE_10GB: return "10Gb";
-    default: return "Unknown";
+    case SFP_STATE_NOT_PRESENT:
+        return "Not Present";
+    case SFP_STATE_4GB:
+        return "4Gb";
+    case SFP_STATE_8GB:
+        return "8Gb";
+    case SFP_STATE_4GB_MISMATCH:
+        return "4Gb Mismatch";
+    case SFP_STATE_8GB_MISMATCH:
+        return "8Gb Mismatch";
+    case SFP_STATE_10GB:
+        return "10Gb";
+    default:
+        return "Unknown";
     }
 }
 

@@ -66,7 +66,7 @@ public:
     static std::string pgmdFrameSizeToText(FRAME_SIZE_TYPE size);
     static std::string sfpStateToText(SFP_STATE state);
 
-    uint32_t portIndex;  // from 0; shown plus one
+    uint32_t portIndex; // from 0; shown plus one
     PORT_STATUS portStatus;
     LINK_STATUS linkStatus;
     FC_MODE fcMode;

@@ -7,20 +7,21 @@
 TEST(KFcInfo, FreshRecordShowsUnknownSettingsAndNoSfpLine)
 {
     const KFcInfo info;
-    EXPECT_EQ(info.displayText(), "    Port = FC1"
-                                  "\n    Port Status = PORT_DISABLED"
-                                  "\n    Link Status = LINK_DOWN"
-                                  "\n    FibreChannel Mode = Unknown"
-                                  "\n    Current Link Rate = Auto"
-                                  "\n    Programmed Link Rate = Auto"
-                                  "\n    WWNN = 0000-0000-0000-0000"
-                                  "\n    WWPN = 0000-0000-0000-0000"
-                                  "\n    Port ID = 00-00-00"
-                                  "\n    Firmware Revision = "
-                                  "\n    Frame Size = 512"
-                                  "\n    Execution Throttle = 16"
-                                  "\n    Connection Mode = Unknown"
-                                  "\n    Programmed Connection Option = Unknown\n");
+    EXPECT_EQ(info.displayText(),
+              "    Port = FC1"
+              "\n    Port Status = PORT_DISABLED"
+              "\n    Link Status = LINK_DOWN"
+              "\n    FibreChannel Mode = Unknown"
+              "\n    Current Link Rate = Auto"
+              "\n    Programmed Link Rate = Auto"
+              "\n    WWNN = 0000-0000-0000-0000"
+              "\n    WWPN = 0000-0000-0000-0000"
+              "\n    Port ID = 00-00-00"
+              "\n    Firmware Revision = "
+              "\n    Frame Size = 512"
+              "\n    Execution Throttle = 16"
+              "\n    Connection Mode = Unknown"
+              "\n    Programmed Connection Option = Unknown\n");
 }
 
 TEST(KFcInfo, FilledRecord)
@@ -38,28 +39,29 @@ TEST(KFcInfo, FilledRecord)
     memcpy(info.wwnnUcharPtr(), wwnn, 8);
     memcpy(info.wwpnUcharPtr(), wwpn, 8);
     memcpy(info.portIdUcharPtr(), portId, 3);
-    info.wwnn[1][0] = 0xEE;  // only the first slot is shown
+    info.wwnn[1][0] = 0xEE; // only the first slot is shown
     strcpy(info.firmwareRevision, "5.02.01");
     info.frameSize = KFcInfo::FRAME_SIZE_2048;
     info.sfpState = KFcInfo::SFP_STATE_8GB;
     info.executionThrottle = 64;
     info.connectionMode = KFcInfo::CONNECTION_MODE_POINT_TO_POINT;
     info.programmedConnectionOption = KFcInfo::CONNECTION_OPTION_AUTO;
-    EXPECT_EQ(info.displayText(), "    Port = FC2"
-                                  "\n    Port Status = PORT_ENABLED"
-                                  "\n    Link Status = LINK_UP"
-                                  "\n    FibreChannel Mode = FCP"
-                                  "\n    Current Link Rate = 8Gb"
-                                  "\n    Programmed Link Rate = Auto"
-                                  "\n    WWNN = 2000-0011-2233-4455"
-                                  "\n    WWPN = 2100-0011-2233-4455"
-                                  "\n    Port ID = 0A-0B-0C"
-                                  "\n    Firmware Revision = 5.02.01"
-                                  "\n    Frame Size = 2048"
-                                  "\n    SFP Type = 8Gb"
-                                  "\n    Execution Throttle = 64"
-                                  "\n    Connection Mode = Point-to-Point"
-                                  "\n    Programmed Connection Option = Auto\n");
+    EXPECT_EQ(info.displayText(),
+              "    Port = FC2"
+              "\n    Port Status = PORT_ENABLED"
+              "\n    Link Status = LINK_UP"
+              "\n    FibreChannel Mode = FCP"
+              "\n    Current Link Rate = 8Gb"
+              "\n    Programmed Link Rate = Auto"
+              "\n    WWNN = 2000-0011-2233-4455"
+              "\n    WWPN = 2100-0011-2233-4455"
+              "\n    Port ID = 0A-0B-0C"
+              "\n    Firmware Revision = 5.02.01"
+              "\n    Frame Size = 2048"
+              "\n    SFP Type = 8Gb"
+              "\n    Execution Throttle = 64"
+              "\n    Connection Mode = Point-to-Point"
+              "\n    Programmed Connection Option = Auto\n");
 }
 
 TEST(KFcInfo, FirmwareRevisionWithoutTerminatorStaysInItsField)

@@ -16,7 +16,7 @@ bool isEmptyField(const char (&field)[N])
     return field[0] == '\0';
 }
 
-}  // namespace
+} // namespace
 
 // ---- KLinuxHostInfo ---------------------------------------------------------
 
@@ -53,12 +53,12 @@ void KLinuxHostInfo::init()
 std::string KLinuxHostInfo::displayText() const
 {
     return "        System name:         " + charFieldToText(systemName) + "\n" +
-           "        Node name:           " + charFieldToText(nodeName) + "\n" +
-           "        OS version:          " + charFieldToText(osVersion) + "\n" +
-           "        OS build date:       " + charFieldToText(osBuildDate) + "\n" +
-           "        Machine name:        " + charFieldToText(machineName) + "\n" +
-           "        Domain name:         " + charFieldToText(domainName) + "\n" +
-           "        Driver version:      " + charFieldToText(driverVersion) + "\n";
+        "        Node name:           " + charFieldToText(nodeName) + "\n" +
+        "        OS version:          " + charFieldToText(osVersion) + "\n" +
+        "        OS build date:       " + charFieldToText(osBuildDate) + "\n" +
+        "        Machine name:        " + charFieldToText(machineName) + "\n" +
+        "        Domain name:         " + charFieldToText(domainName) + "\n" +
+        "        Driver version:      " + charFieldToText(driverVersion) + "\n";
 }
 
 // A host that calls itself "localhost" in no domain is told apart by its
@@ -108,8 +108,9 @@ void KWindowsHostInfo::init()
 
 std::string KWindowsHostInfo::displayText() const
 {
-    return "        System Info:     " + charFieldToText(systemInfo) + "\n        Host name:      " + charFieldToText(hostName) +
-           "\n        Driver version: " + charFieldToText(driverVersion) + "\n";
+    return "        System Info:     " + charFieldToText(systemInfo) +
+        "\n        Host name:      " + charFieldToText(hostName) +
+        "\n        Driver version: " + charFieldToText(driverVersion) + "\n";
 }
 
 std::string KWindowsHostInfo::hostLabelText(const std::string&) const

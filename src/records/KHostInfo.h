@@ -84,8 +84,8 @@ public:
     void assignFromImage(const void* image);
 
     ISA_ADAPTER_HOST_TYPE hostType;
-    KLinuxHostInfo linuxHostInfo;      // for BSD, Linux, VMware and Solaris hosts
-    KWindowsHostInfo windowsHostInfo;  // for Windows hosts
+    KLinuxHostInfo linuxHostInfo;     // for BSD, Linux, VMware and Solaris hosts
+    KWindowsHostInfo windowsHostInfo; // for Windows hosts
 };
 
 static_assert(sizeof(KHostInfo) == 848, "host image");

@@ -31,19 +31,17 @@ KHostInfo hostOfType(int type)
     return host;
 }
 
-const char kLinuxText[] =
-    "        System name:         Linux\n"
-    "        Node name:           node7\n"
-    "        OS version:          6.1.0-13-amd64\n"
-    "        OS build date:       2023-09-29\n"
-    "        Machine name:        x86_64\n"
-    "        Domain name:         lab\n"
-    "        Driver version:      3.2.1\n";
+const char kLinuxText[] = "        System name:         Linux\n"
+                          "        Node name:           node7\n"
+                          "        OS version:          6.1.0-13-amd64\n"
+                          "        OS build date:       2023-09-29\n"
+                          "        Machine name:        x86_64\n"
+                          "        Domain name:         lab\n"
+                          "        Driver version:      3.2.1\n";
 
-const char kWindowsText[] =
-    "        System Info:     Server 2012\n"
-    "        Host name:      WINHOST\n"
-    "        Driver version: 9.9\n";
+const char kWindowsText[] = "        System Info:     Server 2012\n"
+                            "        Host name:      WINHOST\n"
+                            "        Driver version: 9.9\n";
 
 TEST(KLinuxHostInfo, LocalhostWithoutDomainIsLabelledByKernelVersionAndBuildDate)
 {
@@ -140,4 +138,4 @@ TEST(KHostInfo, CopyAndInit)
     EXPECT_EQ("", PBase::charFieldToText(copy.windowsHostInfo.hostName));
 }
 
-}  // namespace
+} // namespace

@@ -89,7 +89,7 @@ std::string summaryLines(const std::string& word, const KHostPcieInfo::Direction
     return text;
 }
 
-}  // namespace
+} // namespace
 
 KHostPcieInfo::KHostPcieInfo() : PBase()
 {
@@ -142,14 +142,14 @@ std::string KHostPcieInfo::latencyText(uint32_t microseconds)
 
 KHostPcieInfo::Direction KHostPcieInfo::reads() const
 {
-    return {readIoCount, avgReadIosPerSec, minReadIoSize, maxReadIoSize, avgReadIoSize,
-            avgReadBandwidth, minReadLatency, maxReadLatency, avgReadLatency, readIoOutstanding};
+    return {readIoCount,      avgReadIosPerSec, minReadIoSize,  maxReadIoSize,  avgReadIoSize,
+            avgReadBandwidth, minReadLatency,   maxReadLatency, avgReadLatency, readIoOutstanding};
 }
 
 KHostPcieInfo::Direction KHostPcieInfo::writes() const
 {
-    return {writeIoCount, avgWriteIosPerSec, minWriteIoSize, maxWriteIoSize, avgWriteIoSize,
-            avgWriteBandwidth, minWriteLatency, maxWriteLatency, avgWriteLatency, writeIoOutstanding};
+    return {writeIoCount,      avgWriteIosPerSec, minWriteIoSize,  maxWriteIoSize,  avgWriteIoSize,
+            avgWriteBandwidth, minWriteLatency,   maxWriteLatency, avgWriteLatency, writeIoOutstanding};
 }
 
 std::string KHostPcieInfo::displayText() const

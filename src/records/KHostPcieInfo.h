@@ -31,12 +31,12 @@ public:
     uint32_t writeIoCount;
     uint32_t writeBytesCount;
     uint32_t avgReadIosPerSec;
-    uint32_t minReadIoSize;  // bytes, like all IO sizes
+    uint32_t minReadIoSize; // bytes, like all IO sizes
     uint32_t maxReadIoSize;
     uint32_t avgReadIoSize;
-    uint32_t avgReadBandwidth;  // bytes per second
+    uint32_t avgReadBandwidth; // bytes per second
     uint32_t readIoDelay;
-    uint32_t minReadLatency;  // microseconds, like all latencies
+    uint32_t minReadLatency; // microseconds, like all latencies
     uint32_t maxReadLatency;
     uint32_t avgReadLatency;
     uint32_t readIoOutstanding;

@@ -30,25 +30,26 @@ KHostPcieInfo busyAdapter()
     return info;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KHostPcieInfo, LatencyIsShownInMilliseconds)
 {
     EXPECT_EQ(KHostPcieInfo::latencyText(1500), "1.500");
     EXPECT_EQ(KHostPcieInfo::latencyText(0), "0.000");
     EXPECT_EQ(KHostPcieInfo::latencyText(1), "0.001");
-    EXPECT_EQ(KHostPcieInfo::latencyText(4294967295u), "4294967.500");  // single precision
+    EXPECT_EQ(KHostPcieInfo::latencyText(4294967295u), "4294967.500"); // single precision
 }
 
 TEST(KHostPcieInfo, HostIoSection)
 {
-    EXPECT_EQ(busyAdapter().displayText(),
-              "\n\n[Host IO Statistics]\n\n"
-              "Read  Latency:                Min:   1.500ms,  Max:  25.000ms,  Avg:   2.750ms;  Outstanding IO: 4\n"
-              "Write Latency:                Min:   0.100ms,  Max:   9.999ms,  Avg:   0.000ms;  Outstanding IO: 0\n"
-              "\n"
-              "Host Reads:          123456,  Min:  512Bytes,  Max:       1MB,  Avg:       4KB,  IOPS:  2500,  KBs: 10240\n"
-              "Host Writes:              7,  Min:       4KB,  Max:      64KB,  Avg:       8KB,  IOPS:    12,  KBs: 2    \n");
+    EXPECT_EQ(
+        busyAdapter().displayText(),
+        "\n\n[Host IO Statistics]\n\n"
+        "Read  Latency:                Min:   1.500ms,  Max:  25.000ms,  Avg:   2.750ms;  Outstanding IO: 4\n"
+        "Write Latency:                Min:   0.100ms,  Max:   9.999ms,  Avg:   0.000ms;  Outstanding IO: 0\n"
+        "\n"
+        "Host Reads:          123456,  Min:  512Bytes,  Max:       1MB,  Avg:       4KB,  IOPS:  2500,  KBs: 10240\n"
+        "Host Writes:              7,  Min:       4KB,  Max:      64KB,  Avg:       8KB,  IOPS:    12,  KBs: 2    \n");
 }
 
 TEST(KHostPcieInfo, ShortHostSection)
@@ -101,14 +102,32 @@ TEST(KHostPcieInfo, FieldsByNumberFollowTheImage)
 TEST(KHostPcieInfo, CsvTitles)
 {
     const char* const titles[] = {
-        "Read Diff Time,", "Write Diff Time,", "Read IO Count,", "Read Bytes Count,", "Write IO Count,",
-        "Write Bytes Count,", "Avg Read IOs Per Sec,", "Min Read IO Size Bytes,", "Max Read IO Size Bytes,",
-        "Avg Read IO Size Bytes,", "Average Read Bandwidth (Bytes),", "Read IO Delay,",
-        "Min Read IO Latency (us),", "Max Read IO Latency (us),", "Avg Read IO Latency (us),",
-        "Current Read IO Outstanding,", "Avg Write IOs Per Sec,", "Min Write IO Size Bytes,",
-        "Max Write IO Size Bytes,", "Avg Write IO Size Bytes,", "Average Write Bandwidth (Bytes),",
-        "Write IO Delay,", "Min Write IO Latency (us),", "Max Write IO Latency (us),",
-        "Avg Write IO Latency (us),", "Current Write IO Outstanding,",
+        "Read Diff Time,",
+        "Write Diff Time,",
+        "Read IO Count,",
+        "Read Bytes Count,",
+        "Write IO Count,",
+        "Write Bytes Count,",
+        "Avg Read IOs Per Sec,",
+        "Min Read IO Size Bytes,",
+        "Max Read IO Size Bytes,",
+        "Avg Read IO Size Bytes,",
+        "Average Read Bandwidth (Bytes),",
+        "Read IO Delay,",
+        "Min Read IO Latency (us),",
+        "Max Read IO Latency (us),",
+        "Avg Read IO Latency (us),",
+        "Current Read IO Outstanding,",
+        "Avg Write IOs Per Sec,",
+        "Min Write IO Size Bytes,",
+        "Max Write IO Size Bytes,",
+        "Avg Write IO Size Bytes,",
+        "Average Write Bandwidth (Bytes),",
+        "Write IO Delay,",
+        "Min Write IO Latency (us),",
+        "Max Write IO Latency (us),",
+        "Avg Write IO Latency (us),",
+        "Current Write IO Outstanding,",
     };
     for (unsigned int i = 0; i < KHostPcieInfo::FIELD_COUNT; ++i)
         EXPECT_EQ(KHostPcieInfo::csvTitleAt(i), titles[i]) << i;

@@ -42,7 +42,7 @@ std::string KFcInitiatorInfo::displayText() const
 std::string KFcInitiatorInfo::displayText(const std::string& prefix) const
 {
     return prefix + "(" + KFcInfo::fcModeToText(fcMode) + ") Fibre Channel Initiator " + wwnnToString() + ", " +
-           wwpnToString() + "\n" + prefix + "Port ID = " + portIdToString() + "\n";
+        wwpnToString() + "\n" + prefix + "Port ID = " + portIdToString() + "\n";
 }
 
 // ---- iSCSI names --------------------------------------------------------------
@@ -87,10 +87,8 @@ std::string KIscsiInitiatorInfo::displayText() const
 // what administrators' scripts already expect from this record.
 std::string KIscsiInitiatorInfo::displayText(const std::string& prefix) const
 {
-    return prefix + "iSCSI Target\n" + prefix + "iSCSI Name = " +
-           charFieldToText(iscsiName) + "\n" + prefix + "CHAP is " +
-           enableToText(chapEnabled) + "\n" + prefix + "CHAP Secret = " +
-           charFieldToText(chapSecret) + "\n";
+    return prefix + "iSCSI Target\n" + prefix + "iSCSI Name = " + charFieldToText(iscsiName) + "\n" + prefix +
+        "CHAP is " + enableToText(chapEnabled) + "\n" + prefix + "CHAP Secret = " + charFieldToText(chapSecret) + "\n";
 }
 
 // ---- the initiator --------------------------------------------------------------
@@ -139,7 +137,7 @@ void KInitiatorInfo::init()
 bool KInitiatorInfo::serialize(bool write, FILE* file, std::string& error)
 {
     return base_serialize(write, file, reinterpret_cast<char*>(&protocol), scalarBlockSize(), error) &&
-           fc.serialize(write, file, error) && iscsi.serialize(write, file, error);
+        fc.serialize(write, file, error) && iscsi.serialize(write, file, error);
 }
 
 std::string KInitiatorInfo::displayText() const

@@ -34,24 +34,26 @@ KInitiatorInfo iscsiInitiator()
     return info;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KInitiatorInfo, FibreChannelInitiator)
 {
-    EXPECT_EQ(fcInitiator().displayText(), "FC Initiator\n"
-                                           "    (FCP) Fibre Channel Initiator 2000-0011-2233-4466, 2100-0011-2233-4466\n"
-                                           "    Port ID = 0A-00-01\n"
-                                           "    Operational State = Logged In, Target, FCOE\n");
+    EXPECT_EQ(fcInitiator().displayText(),
+              "FC Initiator\n"
+              "    (FCP) Fibre Channel Initiator 2000-0011-2233-4466, 2100-0011-2233-4466\n"
+              "    Port ID = 0A-00-01\n"
+              "    Operational State = Logged In, Target, FCOE\n");
 }
 
 TEST(KInitiatorInfo, IscsiInitiatorShowsTargetHeadingAndSecret)
 {
-    EXPECT_EQ(iscsiInitiator().displayText("> "), "> iSCSI Initiator\n"
-                                                  ">     iSCSI Target\n"
-                                                  ">     iSCSI Name = iqn.1994-05.com.example:host7\n"
-                                                  ">     CHAP is Enabled\n"
-                                                  ">     CHAP Secret = s3cret\n"
-                                                  ">     Operational State = Logged Out, DM\n");
+    EXPECT_EQ(iscsiInitiator().displayText("> "),
+              "> iSCSI Initiator\n"
+              ">     iSCSI Target\n"
+              ">     iSCSI Name = iqn.1994-05.com.example:host7\n"
+              ">     CHAP is Enabled\n"
+              ">     CHAP Secret = s3cret\n"
+              ">     Operational State = Logged Out, DM\n");
 }
 
 TEST(KInitiatorInfo, NeitherProtocolGivesStarsOnly)
@@ -65,8 +67,9 @@ TEST(KInitiatorInfo, NeitherProtocolGivesStarsOnly)
 TEST(KInitiatorInfo, FreshFibreChannelNamesReadUnknownMode)
 {
     const KFcInitiatorInfo fc;
-    EXPECT_EQ(fc.displayText(), "(Unknown) Fibre Channel Initiator 0000-0000-0000-0000, 0000-0000-0000-0000\n"
-                                "Port ID = 00-00-00\n");
+    EXPECT_EQ(fc.displayText(),
+              "(Unknown) Fibre Channel Initiator 0000-0000-0000-0000, 0000-0000-0000-0000\n"
+              "Port ID = 00-00-00\n");
 }
 
 TEST(KInitiatorInfo, Predicates)

@@ -22,7 +22,7 @@ void appendIfSet(std::string& text, const char* label, const std::string& value)
     }
 }
 
-}  // namespace
+} // namespace
 
 KIsaAdapterInfo::KIsaAdapterInfo()
 {
@@ -127,7 +127,7 @@ std::string KIsaAdapterInfo::clusterRoleText() const
 std::string KIsaAdapterInfo::mismatchedIdText(const char* role, uint64_t id) const
 {
     return std::string("\n        <This adapter has a ") + role + " adapter ID (" + ui64NumberToHexText(id) +
-           ") that does not match the " + role + " for the cluster>\n";
+        ") that does not match the " + role + " for the cluster>\n";
 }
 
 // An adapter that does not answer shows one line instead of everything it

@@ -56,7 +56,7 @@ public:
     char symbolicName[SYMBOLIC_NAME_SIZE];
     char serialNumber[VERSION_SIZE];
     char hwVersion[VERSION_SIZE];
-    char swVersion[VERSION_SIZE];  // firmware; may end in a newline
+    char swVersion[VERSION_SIZE]; // firmware; may end in a newline
     char ubootBiosVersion[VERSION_SIZE];
     char biosVersion[VERSION_SIZE];
     char efiVersion[VERSION_SIZE];

@@ -31,15 +31,14 @@ KIsaAdapterInfo onlineAdapter()
 
 const char kHostText[] = "        *** Unknown host type ***\n";
 
-const char kProductText[] =
-    "\n        Product Name        = ZEK-8200"
-    "\n        Symbolic Name       = cache-a"
-    "\n        Serial Number       = SN0001"
-    "\n        SW Version          = 4.2.0\n"
-    "        u-boot BIOS Version = 1.1\n"
-    "        HW Version          = B0\n"
-    "        BIOS Version        = 2.0\n"
-    "        EFI Version         = 3.0\n";
+const char kProductText[] = "\n        Product Name        = ZEK-8200"
+                            "\n        Symbolic Name       = cache-a"
+                            "\n        Serial Number       = SN0001"
+                            "\n        SW Version          = 4.2.0\n"
+                            "        u-boot BIOS Version = 1.1\n"
+                            "        HW Version          = B0\n"
+                            "        BIOS Version        = 2.0\n"
+                            "        EFI Version         = 3.0\n";
 
 TEST(KIsaAdapterInfo, OfflineAdapterShowsNoProductDataButKeepsItsHost)
 {
@@ -187,4 +186,4 @@ TEST(KIsaAdapterInfo, CopyTakesFieldsAndHost)
     EXPECT_EQ(0, copy.adapterState);
 }
 
-}  // namespace
+} // namespace

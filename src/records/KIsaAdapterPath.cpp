@@ -6,7 +6,7 @@ namespace {
 // The plain fields from the identifier to the adapter type are saved as one
 // block ahead of the agent address.
 constexpr unsigned int kPlainFieldsSize = 24;
-}  // namespace
+} // namespace
 
 KIsaAdapterPath::KIsaAdapterPath()
 {

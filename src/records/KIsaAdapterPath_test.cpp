@@ -122,11 +122,11 @@ TEST(KIsaAdapterPath, SerializeWritesThePlainFieldsThenTheAgent)
     rewind(file);
     unsigned char head[24];
     ASSERT_EQ(24u, fread(head, 1, 24, file));
-    EXPECT_EQ(0x08, head[0]);  // identifier, low byte first
-    EXPECT_EQ(6, head[8]);     // device instance
-    EXPECT_EQ(0, head[12]);    // not a local device
-    EXPECT_EQ(2, head[16]);    // reached through an agent
-    EXPECT_EQ(1, head[20]);    // adapter type
+    EXPECT_EQ(0x08, head[0]); // identifier, low byte first
+    EXPECT_EQ(6, head[8]);    // device instance
+    EXPECT_EQ(0, head[12]);   // not a local device
+    EXPECT_EQ(2, head[16]);   // reached through an agent
+    EXPECT_EQ(1, head[20]);   // adapter type
     rewind(file);
     KIsaAdapterPath in;
     ASSERT_TRUE(in.serialize(false, file, error));
@@ -144,4 +144,4 @@ TEST(KIsaAdapterPath, CopyKeepsEverything)
     EXPECT_EQ(source.displayText(), copy.displayText());
 }
 
-}  // namespace
+} // namespace

@@ -36,5 +36,5 @@ void KLibraryVersionInfo::init()
 std::string KLibraryVersionInfo::displayText() const
 {
     return ui64NumberToText(versionMajor) + "." + ui64NumberToText(versionMinor) + "." +
-           ui64NumberToText(versionPatch) + "." + ui64NumberToText(versionBuild);
+        ui64NumberToText(versionPatch) + "." + ui64NumberToText(versionBuild);
 }

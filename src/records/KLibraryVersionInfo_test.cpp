@@ -19,4 +19,4 @@ TEST(KLibraryVersionInfo, FourNumbersJoinedByDots)
     EXPECT_EQ(20u, copy.getSerialOffset());
 }
 
-}  // namespace
+} // namespace

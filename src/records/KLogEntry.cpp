@@ -28,7 +28,7 @@ std::string boundedText(const char* field, size_t size)
     return std::string(field, strnlen(field, size));
 }
 
-}  // namespace
+} // namespace
 
 // ---- KLogEntryBase ------------------------------------------------------------
 
@@ -103,7 +103,7 @@ KLogEntry::~KLogEntry()
 
 void KLogEntry::init()
 {
-    untouchedWord = 1;  // a blank log record is a valid one
+    untouchedWord = 1; // a blank log record is a valid one
     entryNumber = 0;
     fastMemsetZero(source, sizeof source);
     severity = RAW_SEVERITY_UNKNOWN;
@@ -123,9 +123,8 @@ bool KLogEntry::serialize(bool write, FILE* file, std::string& error)
 
 bool KLogEntry::operator==(const KLogEntry& other) const
 {
-    return time == other.time && severity == other.severity &&
-           strncmp(source, other.source, sizeof source) == 0 &&
-           strncmp(message, other.message, sizeof message) == 0;
+    return time == other.time && severity == other.severity && strncmp(source, other.source, sizeof source) == 0 &&
+        strncmp(message, other.message, sizeof message) == 0;
 }
 
 bool KLogEntry::operator!=(const KLogEntry& other) const
@@ -136,37 +135,55 @@ bool KLogEntry::operator!=(const KLogEntry& other) const
 std::string KLogEntry::rawLogfileSeverityTypeToText(RAW_LOG_ENTRY_SEVERITY_TYPE value)
 {
     switch (value) {
-    case RAW_SEVERITY_UNKNOWN: return "UNKN ";
-    case RAW_SEVERITY_FATAL: return "FATAL";
-    case RAW_SEVERITY_ERROR: return "ERROR";
-    case RAW_SEVERITY_WARNING: return "WARN ";
-    case RAW_SEVERITY_TRACE: return "TRACE";
-    case RAW_SEVERITY_INFO: return "INFO ";
-    case RAW_SEVERITY_DEBUG: return "DEBUG";
-    case RAW_SEVERITY_SYSTEM: return "SYSTM";
-    default: return "Unknown";
+    case RAW_SEVERITY_UNKNOWN:
+        return "UNKN ";
+    case RAW_SEVERITY_FATAL:
+        return "FATAL";
+    case RAW_SEVERITY_ERROR:
+        return "ERROR";
+    case RAW_SEVERITY_WARNING:
+        return "WARN ";
+    case RAW_SEVERITY_TRACE:
+        return "TRACE";
+    case RAW_SEVERITY_INFO:
+        return "INFO ";
+    case RAW_SEVERITY_DEBUG:
+        return "DEBUG";
+    case RAW_SEVERITY_SYSTEM:
+        return "SYSTM";
+    default:
+        return "Unknown";
     }
 }
 
 std::string KLogEntry::rawLogfileSeverityTypeToKeyword(RAW_LOG_ENTRY_SEVERITY_TYPE value)
 {
     switch (value) {
-    case RAW_SEVERITY_UNKNOWN: return "unknown";
-    case RAW_SEVERITY_FATAL: return "fatal";
-    case RAW_SEVERITY_ERROR: return "error";
-    case RAW_SEVERITY_WARNING: return "warning";
-    case RAW_SEVERITY_TRACE: return "trace";
-    case RAW_SEVERITY_INFO: return "info";
-    case RAW_SEVERITY_DEBUG: return "debug";
-    case RAW_SEVERITY_SYSTEM: return "system";
-    default: return std::string();
+    case RAW_SEVERITY_UNKNOWN:
+        return "unknown";
+    case RAW_SEVERITY_FATAL:
+        return "fatal";
+    case RAW_SEVERITY_ERROR:
+        return "error";
+    case RAW_SEVERITY_WARNING:
+        return "warning";
+    case RAW_SEVERITY_TRACE:
+        return "trace";
+    case RAW_SEVERITY_INFO:
+        return "info";
+    case RAW_SEVERITY_DEBUG:
+        return "debug";
+    case RAW_SEVERITY_SYSTEM:
+        return "system";
+    default:
+        return std::string();
     }
 }
 
 std::string KLogEntry::displayDelimitedText(const std::string& delimiter) const
 {
     std::string text = rawLogfileSeverityTypeToText(severity) + delimiter + time.displayText() + delimiter +
-                       boundedText(source, sizeof source) + delimiter + boundedText(message, sizeof message);
+        boundedText(source, sizeof source) + delimiter + boundedText(message, sizeof message);
     if (text.back() != '\n')
         text += "\n";
     return text;

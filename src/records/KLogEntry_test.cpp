@@ -13,7 +13,7 @@ KLogEntry entry(const char* source, KLogEntry::RAW_LOG_ENTRY_SEVERITY_TYPE sever
     strcpy(e.source, source);
     e.severity = severity;
     strcpy(e.message, message);
-    e.time.initFromPosixTime(1700000000);  // 11/14/2023 22:13:20 GMT
+    e.time.initFromPosixTime(1700000000); // 11/14/2023 22:13:20 GMT
     return e;
 }
 
@@ -26,7 +26,7 @@ struct TempFile {
     }
 };
 
-}  // namespace
+} // namespace
 
 TEST(KLogEntry, SeverityTable)
 {
@@ -164,7 +164,7 @@ TEST(KLogEntry, RestoreReadsASavedRecord)
     KLogEntry back;
     EXPECT_EQ(back.restore(tmp.file), 300u);
     EXPECT_TRUE(back == first);
-    EXPECT_EQ(back.entryNumber, 0);  // not part of the file form
+    EXPECT_EQ(back.entryNumber, 0); // not part of the file form
     EXPECT_EQ(back.restore(tmp.file), 300u);
     EXPECT_TRUE(back == second);
     EXPECT_EQ(back.displayText(), "FATAL 11/14/2023 22:13:20 fc Port 2 failed\n");

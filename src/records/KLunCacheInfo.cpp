@@ -3,13 +3,13 @@
 namespace {
 
 const char* const kMirrorStateBitTexts[16] = {
-    "Configured",    "Unused 1",      "Unused 2",        "Unused 3",
-    "Soft Failure",  "Unused 4",      "Unused 5",        "Unused 6",
-    "In Synchrony",  "In Transition", "Failover",        "Failover Done",
-    "Wait for Rebind", "Resync on Bootup", "Peer in Factory Default Mode", "Unused 7",
+    "Configured", "Unused 1",      "Unused 2",        "Unused 3",         "Soft Failure",
+    "Unused 4",   "Unused 5",      "Unused 6",        "In Synchrony",     "In Transition",
+    "Failover",   "Failover Done", "Wait for Rebind", "Resync on Bootup", "Peer in Factory Default Mode",
+    "Unused 7",
 };
 
-}  // namespace
+} // namespace
 
 KLunCacheInfo::KLunCacheInfo() : PBase()
 {
@@ -71,26 +71,40 @@ bool KLunCacheInfo::isMirrorState(unsigned int bit) const
 std::string KLunCacheInfo::lunCacheModeToText(CACHE_MODE mode)
 {
     switch (mode) {
-    case CACHE_MODE_READ_WRITE_THROUGH: return "Read_Write_Through";
-    case CACHE_MODE_READ_WRITE_BACK: return "Read_Write_Back";
-    case CACHE_MODE_READ_ONLY: return "Read_Only";
-    case CACHE_MODE_WRITE_THROUGH_ONLY: return "Write_Through_Only";
-    case CACHE_MODE_WRITE_BACK_ONLY: return "Write_Back_Only";
-    case CACHE_MODE_PURGE_IN_PROGRESS: return "Purge_In_Progress";
-    default: return "    ****\n";
+    case CACHE_MODE_READ_WRITE_THROUGH:
+        return "Read_Write_Through";
+    case CACHE_MODE_READ_WRITE_BACK:
+        return "Read_Write_Back";
+    case CACHE_MODE_READ_ONLY:
+        return "Read_Only";
+    case CACHE_MODE_WRITE_THROUGH_ONLY:
+        return "Write_Through_Only";
+    case CACHE_MODE_WRITE_BACK_ONLY:
+        return "Write_Back_Only";
+    case CACHE_MODE_PURGE_IN_PROGRESS:
+        return "Purge_In_Progress";
+    default:
+        return "    ****\n";
     }
 }
 
 std::string KLunCacheInfo::lunCacheProfileTypeToText(CACHE_PROFILE_TYPE profile)
 {
     switch (profile) {
-    case CACHE_PROFILE_DEFAULT: return "Default";
-    case CACHE_PROFILE_ERP: return "ERP";
-    case CACHE_PROFILE_WAREHOUSING: return "Warehousing";
-    case CACHE_PROFILE_EXCHANGE: return "Exchange";
-    case CACHE_PROFILE_MEDIA_SERVER: return "Media Server";
-    case CACHE_PROFILE_VENDOR_SPECIFIC: return "Vendor Specific";
-    default: return "    ****\n";
+    case CACHE_PROFILE_DEFAULT:
+        return "Default";
+    case CACHE_PROFILE_ERP:
+        return "ERP";
+    case CACHE_PROFILE_WAREHOUSING:
+        return "Warehousing";
+    case CACHE_PROFILE_EXCHANGE:
+        return "Exchange";
+    case CACHE_PROFILE_MEDIA_SERVER:
+        return "Media Server";
+    case CACHE_PROFILE_VENDOR_SPECIFIC:
+        return "Vendor Specific";
+    default:
+        return "    ****\n";
     }
 }
 
@@ -104,11 +118,16 @@ std::string KLunCacheInfo::mirrorStateToText(int /*unused*/, int bit)
 std::string KLunCacheInfo::mirrorFlagToText(MIRROR_CACHE_FLAG flag)
 {
     switch (flag) {
-    case MIRROR_CACHE_RESYNC_IN_PROGRESS: return "Mirror Cache Re-Synchrony in Progress";
-    case MIRROR_CACHE_RESYNC_DONE: return "Mirror Cache Re-Synchrony Done";
-    case MIRROR_CACHE_PEER_IN_PROGRESS: return "Peer Mirror Cache in Progress";
-    case MIRROR_CACHE_PEER_DONE: return "Peer Mirror Cache Done";
-    default: return "";
+    case MIRROR_CACHE_RESYNC_IN_PROGRESS:
+        return "Mirror Cache Re-Synchrony in Progress";
+    case MIRROR_CACHE_RESYNC_DONE:
+        return "Mirror Cache Re-Synchrony Done";
+    case MIRROR_CACHE_PEER_IN_PROGRESS:
+        return "Peer Mirror Cache in Progress";
+    case MIRROR_CACHE_PEER_DONE:
+        return "Peer Mirror Cache Done";
+    default:
+        return "";
     }
 }
 
@@ -147,8 +166,7 @@ std::string KLunCacheInfo::displayText(bool bShowLimits) const
     if (eCacheMode != CACHE_MODE_NONE) {
         text += "        Mode: " + lunCacheModeToText(eCacheMode);
         if (bMirrored)
-            text += " (mirrored at adapter " + ui64NumberToHexText(ui64MirrorAdapter) + ")\n" +
-                    mirrorStateText();
+            text += " (mirrored at adapter " + ui64NumberToHexText(ui64MirrorAdapter) + ")\n" + mirrorStateText();
         text += "\n";
     }
     if (eProfileType != CACHE_PROFILE_UNKNOWN)
@@ -157,24 +175,22 @@ std::string KLunCacheInfo::displayText(bool bShowLimits) const
         return text;
 
     if (ui64MaxCacheBytes != 0)
-        text += "        Cache usage for this LUN is limited to " + longlongToMByteText(ui64MaxCacheBytes) +
-                "\n";
+        text += "        Cache usage for this LUN is limited to " + longlongToMByteText(ui64MaxCacheBytes) + "\n";
     else
         text += "        (Cache usage for this LUN is not limited)\n";
     // Sizes are kept in 512-byte blocks; halving gives whole kilobytes.
     text += "        Reads with size  " + ui64NumberToText(ui32MinRead >> 1) + " KB to " +
-            ui64NumberToText(ui32MaxRead >> 1) + " KB will be cached\n";
+        ui64NumberToText(ui32MaxRead >> 1) + " KB will be cached\n";
     text += "        Writes with size " + ui64NumberToText(ui32MinWrite >> 1) + " KB to " +
-            ui64NumberToText(ui32MaxWrite >> 1) + " KB will be cached\n";
+        ui64NumberToText(ui32MaxWrite >> 1) + " KB will be cached\n";
     if (ui32LockedRangeCount != 0) {
         text += "    (LBA ranges are specified in 512 byte logical blocks)\n";
         text += "    LBA ranges locked in cache:\n";
         // A count beyond the table can only come from a damaged record.
-        unsigned int count = ui32LockedRangeCount < MAX_LOCKED_RANGES ? ui32LockedRangeCount
-                                                                       : MAX_LOCKED_RANGES;
+        unsigned int count = ui32LockedRangeCount < MAX_LOCKED_RANGES ? ui32LockedRangeCount : MAX_LOCKED_RANGES;
         for (unsigned int i = 0; i < count; ++i)
             text += "        -lun_start_lba=" + ui64NumberToText(lockedRanges[i].ui64StartLba) +
-                    " -lun_size_lba=" + ui64NumberToText(lockedRanges[i].ui32Size) + "\n";
+                " -lun_size_lba=" + ui64NumberToText(lockedRanges[i].ui32Size) + "\n";
     }
     return text;
 }
@@ -183,6 +199,6 @@ std::string KLunCacheInfo::displayMirrorLunText() const
 {
     if (ui16MirrorState == 0)
         return "";
-    return mirrorStateText() + "\n        Mirror LUN Dirty Cache Capacity Used: " +
-           longlongToMByteText(ui64MirrorDirtyCacheBytes);
+    return mirrorStateText() +
+        "\n        Mirror LUN Dirty Cache Capacity Used: " + longlongToMByteText(ui64MirrorDirtyCacheBytes);
 }

@@ -30,25 +30,25 @@ KLunCacheInfo mirroredCache()
     return info;
 }
 
-const std::string kMirroredHead =
-    "        Mode: Read_Write_Back (mirrored at adapter 1234ABCD)\n"
-    "        Mirror State:  0x101 (Configured, In Synchrony)\n"
-    "        Mirror Flag: Peer Mirror Cache Done\n"
-    "        Profile Type: Warehousing\n";
+const std::string kMirroredHead = "        Mode: Read_Write_Back (mirrored at adapter 1234ABCD)\n"
+                                  "        Mirror State:  0x101 (Configured, In Synchrony)\n"
+                                  "        Mirror Flag: Peer Mirror Cache Done\n"
+                                  "        Profile Type: Warehousing\n";
 
-}  // namespace
+} // namespace
 
 TEST(KLunCacheInfo, FullTextWithLimitsAndLockedRanges)
 {
     const KLunCacheInfo info = mirroredCache();
-    EXPECT_EQ(info.displayText(true), kMirroredHead +
-                                          "        (Cache usage for this LUN is not limited)\n"
-                                          "        Reads with size  0 KB to 1024 KB will be cached\n"
-                                          "        Writes with size 4 KB to 256 KB will be cached\n"
-                                          "    (LBA ranges are specified in 512 byte logical blocks)\n"
-                                          "    LBA ranges locked in cache:\n"
-                                          "        -lun_start_lba=100 -lun_size_lba=50\n"
-                                          "        -lun_start_lba=4096 -lun_size_lba=8\n");
+    EXPECT_EQ(info.displayText(true),
+              kMirroredHead +
+                  "        (Cache usage for this LUN is not limited)\n"
+                  "        Reads with size  0 KB to 1024 KB will be cached\n"
+                  "        Writes with size 4 KB to 256 KB will be cached\n"
+                  "    (LBA ranges are specified in 512 byte logical blocks)\n"
+                  "    LBA ranges locked in cache:\n"
+                  "        -lun_start_lba=100 -lun_size_lba=50\n"
+                  "        -lun_start_lba=4096 -lun_size_lba=8\n");
 }
 
 TEST(KLunCacheInfo, WithoutLimitsTheTextStopsAfterTheProfile)
@@ -63,8 +63,7 @@ TEST(KLunCacheInfo, MinReadOfOneBlockShowsAsZeroKilobytes)
     KLunCacheInfo info;
     info.ui32MinRead = 1;
     info.ui32MaxRead = 3;
-    EXPECT_NE(info.displayText(true).find("        Reads with size  0 KB to 1 KB will be cached\n"),
-              std::string::npos);
+    EXPECT_NE(info.displayText(true).find("        Reads with size  0 KB to 1 KB will be cached\n"), std::string::npos);
 }
 
 TEST(KLunCacheInfo, LimitedCacheUse)
@@ -72,19 +71,21 @@ TEST(KLunCacheInfo, LimitedCacheUse)
     KLunCacheInfo info;
     info.eCacheMode = KLunCacheInfo::CACHE_MODE_READ_ONLY;
     info.ui64MaxCacheBytes = 10485760;
-    EXPECT_EQ(info.displayText(true), "        Mode: Read_Only\n"
-                                      "        Cache usage for this LUN is limited to 10MB\n"
-                                      "        Reads with size  0 KB to 0 KB will be cached\n"
-                                      "        Writes with size 0 KB to 0 KB will be cached\n");
+    EXPECT_EQ(info.displayText(true),
+              "        Mode: Read_Only\n"
+              "        Cache usage for this LUN is limited to 10MB\n"
+              "        Reads with size  0 KB to 0 KB will be cached\n"
+              "        Writes with size 0 KB to 0 KB will be cached\n");
 }
 
 TEST(KLunCacheInfo, MirrorWithStateZeroShowsOnlyTheNumber)
 {
     KLunCacheInfo info = mirroredCache();
     info.ui16MirrorState = 0;
-    EXPECT_EQ(info.displayText(false), "        Mode: Read_Write_Back (mirrored at adapter 1234ABCD)\n"
-                                       "        Mirror State:  0x0\n"
-                                       "        Profile Type: Warehousing\n");
+    EXPECT_EQ(info.displayText(false),
+              "        Mode: Read_Write_Back (mirrored at adapter 1234ABCD)\n"
+              "        Mirror State:  0x0\n"
+              "        Profile Type: Warehousing\n");
 }
 
 TEST(KLunCacheInfo, NoModeAndNoProfileGiveNoHeadLines)
@@ -118,9 +119,10 @@ TEST(KLunCacheInfo, MirrorLunTextEndsWithoutNewLine)
     KLunCacheInfo info = mirroredCache();
     info.eMirrorFlag = KLunCacheInfo::MIRROR_CACHE_RESYNC_IN_PROGRESS;
     info.ui64MirrorDirtyCacheBytes = 5242880;
-    EXPECT_EQ(info.displayMirrorLunText(), "        Mirror State:  0x101 (Configured, In Synchrony)\n"
-                                           "        Mirror Flag: Mirror Cache Re-Synchrony in Progress"
-                                           "\n        Mirror LUN Dirty Cache Capacity Used: 5MB");
+    EXPECT_EQ(info.displayMirrorLunText(),
+              "        Mirror State:  0x101 (Configured, In Synchrony)\n"
+              "        Mirror Flag: Mirror Cache Re-Synchrony in Progress"
+              "\n        Mirror LUN Dirty Cache Capacity Used: 5MB");
 }
 
 TEST(KLunCacheInfo, MirrorStatePredicate)
@@ -162,9 +164,10 @@ TEST(KLunCacheInfo, ProfileTexts)
 TEST(KLunCacheInfo, MirrorStateBitTexts)
 {
     const char* expected[16] = {
-        "Configured",   "Unused 1",      "Unused 2", "Unused 3",      "Soft Failure",    "Unused 4",
-        "Unused 5",     "Unused 6",      "In Synchrony", "In Transition", "Failover", "Failover Done",
-        "Wait for Rebind", "Resync on Bootup", "Peer in Factory Default Mode", "Unused 7",
+        "Configured", "Unused 1",      "Unused 2",        "Unused 3",         "Soft Failure",
+        "Unused 4",   "Unused 5",      "Unused 6",        "In Synchrony",     "In Transition",
+        "Failover",   "Failover Done", "Wait for Rebind", "Resync on Bootup", "Peer in Factory Default Mode",
+        "Unused 7",
     };
     for (int bit = 0; bit < 16; ++bit)
         EXPECT_EQ(KLunCacheInfo::mirrorStateToText(99, bit), expected[bit]) << "bit " << bit;

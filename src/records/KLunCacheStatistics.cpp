@@ -74,12 +74,11 @@ std::string KLunCacheStatistics::displayText() const
         text += "\n        Cache Capacity Used (Locked) = " + longlongToMByteText(ui64LockedBytes);
     text += "\n        Read Data                   = " + longlongToMByteText(ui64TotalRead);
     text += "\n        Cache Hits (Read Load))     = " + longlongToMByteText(ui64ReadHitBytes) + "\t(" +
-            displayPercentTenthsForHundredthsLSB(ui32ReadHitPercent) + "% of Read Data)";
+        displayPercentTenthsForHundredthsLSB(ui32ReadHitPercent) + "% of Read Data)";
     text += "\n        Cache Hits (Write Load)     = " + longlongToMByteText(ui64WriteHitBytes) + "\t(" +
-            displayPercentTenthsForHundredthsLSB(ui32WriteHitPercent) + "% of Read Data)";
-    text += "\n        Cache Hits (Total)          = " +
-            longlongToMByteText(ui64ReadHitBytes + ui64WriteHitBytes) + "\t(" +
-            displayPercentTenthsForHundredthsLSB(ui32ReadHitPercent + ui32WriteHitPercent) +
-            "% of Read Data)" + "\n";
+        displayPercentTenthsForHundredthsLSB(ui32WriteHitPercent) + "% of Read Data)";
+    text += "\n        Cache Hits (Total)          = " + longlongToMByteText(ui64ReadHitBytes + ui64WriteHitBytes) +
+        "\t(" + displayPercentTenthsForHundredthsLSB(ui32ReadHitPercent + ui32WriteHitPercent) + "% of Read Data)" +
+        "\n";
     return text;
 }

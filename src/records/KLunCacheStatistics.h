@@ -22,8 +22,8 @@ public:
     static std::string displayCSVTitle();
 
     bool bValid;
-    uint32_t ui32ReadHitPercent;   // hundredths of a percent
-    uint32_t ui32WriteHitPercent;  // hundredths of a percent
+    uint32_t ui32ReadHitPercent;  // hundredths of a percent
+    uint32_t ui32WriteHitPercent; // hundredths of a percent
     uint64_t ui64TotalRead;
     uint64_t ui64TotalWritten;
     uint64_t ui64WriteHitBytes;

@@ -17,7 +17,7 @@ KLunCacheStatistics someStatistics()
     return s;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KLunCacheStatistics, PercentRoundsToOneDecimal)
 {
@@ -32,11 +32,12 @@ TEST(KLunCacheStatistics, PercentRoundsToOneDecimal)
 TEST(KLunCacheStatistics, TextSpeaksOfReadDataOnEveryHitLine)
 {
     const KLunCacheStatistics s = someStatistics();
-    EXPECT_EQ(s.displayText(), "        Cache Capacity Used (Clean) = 1MB"
-                               "\n        Read Data                   = 2MB"
-                               "\n        Cache Hits (Read Load))     = 1MB\t(50.0% of Read Data)"
-                               "\n        Cache Hits (Write Load)     = 0\t(20.0% of Read Data)"
-                               "\n        Cache Hits (Total)          = 1MB\t(70.0% of Read Data)\n");
+    EXPECT_EQ(s.displayText(),
+              "        Cache Capacity Used (Clean) = 1MB"
+              "\n        Read Data                   = 2MB"
+              "\n        Cache Hits (Read Load))     = 1MB\t(50.0% of Read Data)"
+              "\n        Cache Hits (Write Load)     = 0\t(20.0% of Read Data)"
+              "\n        Cache Hits (Total)          = 1MB\t(70.0% of Read Data)\n");
 }
 
 TEST(KLunCacheStatistics, DirtyAndLockedLinesOnlyWhenInUse)
@@ -44,13 +45,14 @@ TEST(KLunCacheStatistics, DirtyAndLockedLinesOnlyWhenInUse)
     KLunCacheStatistics s = someStatistics();
     s.ui64DirtyBytes = 2048;
     s.ui64LockedBytes = 1024;
-    EXPECT_EQ(s.displayText(), "        Cache Capacity Used (Clean) = 1MB"
-                               "\n        Cache Capacity Used (Dirty) = 2KB"
-                               "\n        Cache Capacity Used (Locked) = 1KB"
-                               "\n        Read Data                   = 2MB"
-                               "\n        Cache Hits (Read Load))     = 1MB\t(50.0% of Read Data)"
-                               "\n        Cache Hits (Write Load)     = 0\t(20.0% of Read Data)"
-                               "\n        Cache Hits (Total)          = 1MB\t(70.0% of Read Data)\n");
+    EXPECT_EQ(s.displayText(),
+              "        Cache Capacity Used (Clean) = 1MB"
+              "\n        Cache Capacity Used (Dirty) = 2KB"
+              "\n        Cache Capacity Used (Locked) = 1KB"
+              "\n        Read Data                   = 2MB"
+              "\n        Cache Hits (Read Load))     = 1MB\t(50.0% of Read Data)"
+              "\n        Cache Hits (Write Load)     = 0\t(20.0% of Read Data)"
+              "\n        Cache Hits (Total)          = 1MB\t(70.0% of Read Data)\n");
 }
 
 TEST(KLunCacheStatistics, GaugesAreComparedAsSignedValues)

@@ -3,20 +3,43 @@
 namespace {
 
 const char* const kLunStateBitTexts[32] = {
-    "Online",           "Unused 1",           "Unused 2",          "Unused 3",
-    "Unused 4",         "Mapping Disabled",   "Unused 6",          "Storage Controller LUN",
-    "Unused 8",         "Unused 9",           "Unused 10",         "Mapped",
-    "Data Management LUN", "Unused 13",       "Local",             "Remote",
-    "Read-only",        "Delete in Progress", "Storage Media SSD", "Cache Store",
-    "Unused 20",        "Cache Ready",        "Mirror",            "Meta-LUN",
-    "TP Controller LUN", "TP BBRAM Extents",  "Logical Cache Pool LUN", "External Cache Store LUN",
-    "Non-Rotating Medium", "Unused 29",       "Unused 30",         "Unused 31",
+    "Online",
+    "Unused 1",
+    "Unused 2",
+    "Unused 3",
+    "Unused 4",
+    "Mapping Disabled",
+    "Unused 6",
+    "Storage Controller LUN",
+    "Unused 8",
+    "Unused 9",
+    "Unused 10",
+    "Mapped",
+    "Data Management LUN",
+    "Unused 13",
+    "Local",
+    "Remote",
+    "Read-only",
+    "Delete in Progress",
+    "Storage Media SSD",
+    "Cache Store",
+    "Unused 20",
+    "Cache Ready",
+    "Mirror",
+    "Meta-LUN",
+    "TP Controller LUN",
+    "TP BBRAM Extents",
+    "Logical Cache Pool LUN",
+    "External Cache Store LUN",
+    "Non-Rotating Medium",
+    "Unused 29",
+    "Unused 30",
+    "Unused 31",
 };
 
 const char* const kLunTypeTexts[13] = {
-    "Unknown LUN Type", "Direct Access", "Sequential Access", "Printer", "Processor",
-    "Worm)",            "DVD",           "Scanner",           "Optical", "Medium Changer",
-    "Communication",    "SAN Controller LUN", "Enclosure",
+    "Unknown LUN Type", "Direct Access", "Sequential Access", "Printer",       "Processor",          "Worm)",     "DVD",
+    "Scanner",          "Optical",       "Medium Changer",    "Communication", "SAN Controller LUN", "Enclosure",
 };
 
 // The controller bit is never named in the state line, though it counts in
@@ -25,7 +48,7 @@ constexpr uint32_t kNamedLunStateMask = 0xFEFFFFFF;
 
 constexpr unsigned int kWwulnCapacity = 256;
 
-}  // namespace
+} // namespace
 
 KLunInfo::KLunInfo() : PBase()
 {
@@ -81,7 +104,7 @@ void KLunInfo::init()
 bool KLunInfo::serialize(bool write, FILE* file, std::string& error)
 {
     return base_serialize(write, file, reinterpret_cast<char*>(&bValid), scalarBlockSize(), error) &&
-           ssdLunInfo.serialize(write, file, error) && cacheInfo.serialize(write, file, error);
+        ssdLunInfo.serialize(write, file, error) && cacheInfo.serialize(write, file, error);
 }
 
 bool KLunInfo::isLunState(unsigned int bit) const
@@ -92,7 +115,7 @@ bool KLunInfo::isLunState(unsigned int bit) const
 bool KLunInfo::isSanLun() const
 {
     return m_eLunType != LUN_TYPE_UNKNOWN && !isLunState(LUN_STATE_STORAGE_MEDIA_SSD) &&
-           !isLunState(LUN_STATE_TP_CONTROLLER_LUN);
+        !isLunState(LUN_STATE_TP_CONTROLLER_LUN);
 }
 
 std::string KLunInfo::lunStateToText(int /*unused*/, int bit)
@@ -112,22 +135,32 @@ std::string KLunInfo::lunTypeToText(KISA_LUN_TYPE type)
 std::string KLunInfo::lunCacheStateToText(KISA_CACHE_STATE state)
 {
     switch (state) {
-    case CACHE_STATE_UNKNOWN: return "    ******\n";
-    case CACHE_STATE_NOT_CACHED: return "(Not Cached)";
-    case CACHE_STATE_CACHED_LOCAL: return "LUN is cached on a local adapter";
-    case CACHE_STATE_CACHED_PEER: return "LUN is cached on a peer adapter";
-    default: return "    ****\n";
+    case CACHE_STATE_UNKNOWN:
+        return "    ******\n";
+    case CACHE_STATE_NOT_CACHED:
+        return "(Not Cached)";
+    case CACHE_STATE_CACHED_LOCAL:
+        return "LUN is cached on a local adapter";
+    case CACHE_STATE_CACHED_PEER:
+        return "LUN is cached on a peer adapter";
+    default:
+        return "    ****\n";
     }
 }
 
 std::string KLunInfo::lunMirrorTypeToText(KISA_MIRROR_STATE state)
 {
     switch (state) {
-    case MIRROR_STATE_UNKNOWN: return "    ******\n";
-    case MIRROR_STATE_NOT_MIRRORED: return "(Not Mirrored)";
-    case MIRROR_STATE_PRIMARY: return "Primary Mirror";
-    case MIRROR_STATE_SECONDARY: return "Secondary Mirror";
-    default: return "    ****\n";
+    case MIRROR_STATE_UNKNOWN:
+        return "    ******\n";
+    case MIRROR_STATE_NOT_MIRRORED:
+        return "(Not Mirrored)";
+    case MIRROR_STATE_PRIMARY:
+        return "Primary Mirror";
+    case MIRROR_STATE_SECONDARY:
+        return "Secondary Mirror";
+    default:
+        return "    ****\n";
     }
 }
 
@@ -151,8 +184,7 @@ std::string KLunInfo::wwulnText() const
 {
     if (eWwulnCodeSet == WWULN_CODE_SET_BINARY) {
         const unsigned int length = ui32WwulnLength < kWwulnCapacity ? ui32WwulnLength : kWwulnCapacity;
-        return "\n    WWULN = " +
-               wwulnToText(ui8Wwuln, static_cast<int>(length), WWULN_CODE_SET_BINARY) + "\n";
+        return "\n    WWULN = " + wwulnToText(ui8Wwuln, static_cast<int>(length), WWULN_CODE_SET_BINARY) + "\n";
     }
     if (eWwulnCodeSet == WWULN_CODE_SET_TEXT) {
         std::string text = "\n    WWULN = ";
@@ -183,14 +215,12 @@ std::string KLunInfo::displayText() const
     text += "\n    LUN Type   = " + lunTypeToText(m_eLunType);
     text += "\n    Vendor ID      = " + charFieldToText(szVendorId);
     text += "\n    Product ID     = " + charFieldToText(szProductId);
-    text += "\n    Revision Level = " +
-            charFieldToText(szRevisionLevel);
+    text += "\n    Revision Level = " + charFieldToText(szRevisionLevel);
     text += "\n    Serial Number  = ";
     for (uint8_t byte : ui8SerialNumber)
         text += byteToHexText(byte);
     if (ui32Page80SerialLength != 0)
-        text += "\n    Page 0x80 serial number = " +
-                charFieldToText(szPage80Serial);
+        text += "\n    Page 0x80 serial number = " + charFieldToText(szPage80Serial);
     text += wwulnText();
 
     if (isLunState(LUN_STATE_STORAGE_MEDIA_SSD))
@@ -198,7 +228,7 @@ std::string KLunInfo::displayText() const
 
     if (text.back() != '\n')
         text += "\n";
-    text += "    Size  = " + longlongToMByteText(ui64LunSizeBytes) + ", (" +
-            ui64NumberToText(ui64LunSizeBytes / 512) + " blocks)\n";
+    text += "    Size  = " + longlongToMByteText(ui64LunSizeBytes) + ", (" + ui64NumberToText(ui64LunSizeBytes / 512) +
+        " blocks)\n";
     return text;
 }

@@ -40,14 +40,13 @@ KLunInfo sanLun()
     return info;
 }
 
-const std::string kSanLunBody =
-    "    LUN Type   = Direct Access\n"
-    "    Vendor ID      = ACME\n"
-    "    Product ID     = FastDisk\n"
-    "    Revision Level = 0001\n"
-    "    Serial Number  = 0123456789ABCDEF";
+const std::string kSanLunBody = "    LUN Type   = Direct Access\n"
+                                "    Vendor ID      = ACME\n"
+                                "    Product ID     = FastDisk\n"
+                                "    Revision Level = 0001\n"
+                                "    Serial Number  = 0123456789ABCDEF";
 
-}  // namespace
+} // namespace
 
 TEST(KLunInfo, InvalidRecordPrintsOnlyStars)
 {
@@ -59,7 +58,7 @@ TEST(KLunInfo, InvalidRecordPrintsOnlyStars)
 TEST(KLunInfo, OfflineRecordPrintsOnlyOffline)
 {
     KLunInfo info = sanLun();
-    info.ui32LunState = 0x200800;  // everything but the online bit
+    info.ui32LunState = 0x200800; // everything but the online bit
     EXPECT_EQ(info.displayText(), "    ( Offline )\n");
 }
 
@@ -83,10 +82,11 @@ TEST(KLunInfo, FullTextOfSanLun)
     KLunInfo info = sanLun();
     strcpy(info.szPage80Serial, "SER123");
     info.ui32Page80SerialLength = 6;
-    EXPECT_EQ(info.displayText(), "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
-                                      "\n    Page 0x80 serial number = SER123"
-                                      "\n    WWULN = AABB-CC\n"
-                                      "    Size  = 1GB, (2097152 blocks)\n");
+    EXPECT_EQ(info.displayText(),
+              "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
+                  "\n    Page 0x80 serial number = SER123"
+                  "\n    WWULN = AABB-CC\n"
+                  "    Size  = 1GB, (2097152 blocks)\n");
 }
 
 TEST(KLunInfo, SynchronizingSanLunHasFiveBlanksBeforeTheBracket)
@@ -114,7 +114,7 @@ TEST(KLunInfo, NonSanLunWithMirrorStateZeroPrintsStarsAndAnEmptyLine)
 TEST(KLunInfo, NonSanLunShowsItsMirrorRole)
 {
     KLunInfo info = sanLun();
-    info.ui32LunState = 0x1000001;  // the controller bit makes it a non-SAN LUN
+    info.ui32LunState = 0x1000001; // the controller bit makes it a non-SAN LUN
     info.m_eMirrorState = KLunInfo::MIRROR_STATE_SECONDARY;
     EXPECT_EQ(info.displayText().substr(0, 34), "Secondary Mirror\n    LUN State  = ");
     info.m_eMirrorState = KLunInfo::MIRROR_STATE_NOT_MIRRORED;
@@ -126,9 +126,10 @@ TEST(KLunInfo, TextWwulnIsQuoted)
     KLunInfo info = sanLun();
     info.eWwulnCodeSet = PBase::WWULN_CODE_SET_TEXT;
     strcpy(reinterpret_cast<char*>(info.ui8Wwuln), "LUN name 7");
-    EXPECT_EQ(info.displayText(), "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
-                                      "\n    WWULN = \"LUN name 7\"\n"
-                                      "    Size  = 1GB, (2097152 blocks)\n");
+    EXPECT_EQ(info.displayText(),
+              "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
+                  "\n    WWULN = \"LUN name 7\"\n"
+                  "    Size  = 1GB, (2097152 blocks)\n");
 }
 
 TEST(KLunInfo, EmptyTextWwulnLeavesTheLineToTheSize)
@@ -136,17 +137,19 @@ TEST(KLunInfo, EmptyTextWwulnLeavesTheLineToTheSize)
     KLunInfo info = sanLun();
     info.eWwulnCodeSet = PBase::WWULN_CODE_SET_TEXT;
     info.ui8Wwuln[0] = 0;
-    EXPECT_EQ(info.displayText(), "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
-                                      "\n    WWULN = \n"
-                                      "    Size  = 1GB, (2097152 blocks)\n");
+    EXPECT_EQ(info.displayText(),
+              "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
+                  "\n    WWULN = \n"
+                  "    Size  = 1GB, (2097152 blocks)\n");
 }
 
 TEST(KLunInfo, NoWwulnPrintsNothingForIt)
 {
     KLunInfo info = sanLun();
     info.eWwulnCodeSet = PBase::WWULN_CODE_SET_NONE;
-    EXPECT_EQ(info.displayText(), "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
-                                      "\n    Size  = 1GB, (2097152 blocks)\n");
+    EXPECT_EQ(info.displayText(),
+              "    LUN State  = 0x200801 ( Online, Mapped, Cache Ready)\n" + kSanLunBody +
+                  "\n    Size  = 1GB, (2097152 blocks)\n");
 }
 
 TEST(KLunInfo, DamagedWwulnLengthStaysInsideTheRecord)
@@ -177,9 +180,10 @@ TEST(KLunInfo, LocalSsdLunEndsWithItsOwnText)
     info.ssdLunInfo.bValid = true;
     info.ssdLunInfo.ui64SizeBytes = 2147483648ULL;
     strcpy(info.ssdLunInfo.szSymbolicName, "data1");
-    EXPECT_EQ(info.displayText(), "    LUN State  = 0x40001 ( Online, Storage Media SSD)\n" + kSanLunBody +
-                                      "    ZEK local LUN, Size = 2GB, (4194304 blocks)\n"
-                                      "    Symbolic Name = \"data1\"\n");
+    EXPECT_EQ(info.displayText(),
+              "    LUN State  = 0x40001 ( Online, Storage Media SSD)\n" + kSanLunBody +
+                  "    ZEK local LUN, Size = 2GB, (4194304 blocks)\n"
+                  "    Symbolic Name = \"data1\"\n");
 }
 
 TEST(KLunInfo, Predicates)
@@ -211,14 +215,38 @@ TEST(KLunInfo, Predicates)
 TEST(KLunInfo, LunStateTextsForEveryBit)
 {
     const char* expected[32] = {
-        "Online",           "Unused 1",           "Unused 2",          "Unused 3",
-        "Unused 4",         "Mapping Disabled",   "Unused 6",          "Storage Controller LUN",
-        "Unused 8",         "Unused 9",           "Unused 10",         "Mapped",
-        "Data Management LUN", "Unused 13",       "Local",             "Remote",
-        "Read-only",        "Delete in Progress", "Storage Media SSD", "Cache Store",
-        "Unused 20",        "Cache Ready",        "Mirror",            "Meta-LUN",
-        "TP Controller LUN", "TP BBRAM Extents",  "Logical Cache Pool LUN", "External Cache Store LUN",
-        "Non-Rotating Medium", "Unused 29",       "Unused 30",         "Unused 31",
+        "Online",
+        "Unused 1",
+        "Unused 2",
+        "Unused 3",
+        "Unused 4",
+        "Mapping Disabled",
+        "Unused 6",
+        "Storage Controller LUN",
+        "Unused 8",
+        "Unused 9",
+        "Unused 10",
+        "Mapped",
+        "Data Management LUN",
+        "Unused 13",
+        "Local",
+        "Remote",
+        "Read-only",
+        "Delete in Progress",
+        "Storage Media SSD",
+        "Cache Store",
+        "Unused 20",
+        "Cache Ready",
+        "Mirror",
+        "Meta-LUN",
+        "TP Controller LUN",
+        "TP BBRAM Extents",
+        "Logical Cache Pool LUN",
+        "External Cache Store LUN",
+        "Non-Rotating Medium",
+        "Unused 29",
+        "Unused 30",
+        "Unused 31",
     };
     for (int bit = 0; bit < 32; ++bit)
         EXPECT_EQ(KLunInfo::lunStateToText(12345, bit), expected[bit]) << "bit " << bit;
@@ -230,9 +258,19 @@ TEST(KLunInfo, LunStateTextsForEveryBit)
 TEST(KLunInfo, LunTypeTexts)
 {
     const char* expected[13] = {
-        "Unknown LUN Type", "Direct Access", "Sequential Access", "Printer", "Processor",
-        "Worm)",            "DVD",           "Scanner",           "Optical", "Medium Changer",
-        "Communication",    "SAN Controller LUN", "Enclosure",
+        "Unknown LUN Type",
+        "Direct Access",
+        "Sequential Access",
+        "Printer",
+        "Processor",
+        "Worm)",
+        "DVD",
+        "Scanner",
+        "Optical",
+        "Medium Changer",
+        "Communication",
+        "SAN Controller LUN",
+        "Enclosure",
     };
     for (int type = 0; type < 13; ++type)
         EXPECT_EQ(KLunInfo::lunTypeToText(static_cast<KLunInfo::KISA_LUN_TYPE>(type)), expected[type]);
@@ -311,7 +349,7 @@ TEST(KLunInfo, CopyTakesEveryFieldAndTheDefaults)
     EXPECT_EQ(assigned.ui32DefaultMaxWrite, 3u);
     EXPECT_EQ(memcmp(assigned.ui8Wwuln, info.ui8Wwuln, sizeof(info.ui8Wwuln)), 0);
 
-    assigned = assigned;  // assigning a record to itself keeps it
+    assigned = assigned; // assigning a record to itself keeps it
     EXPECT_TRUE(assigned.bValid);
     EXPECT_EQ(assigned.ui32DefaultMaxWrite, 3u);
 }

@@ -41,9 +41,8 @@ void KLunIoStatistics::init()
 
 bool KLunIoStatistics::serialize(bool write, FILE* file, std::string& error)
 {
-    return base_serialize(write, file, reinterpret_cast<char*>(&ui64ReadCount), scalarBlockSize(),
-                          error) &&
-           cacheStatistics.serialize(write, file, error);
+    return base_serialize(write, file, reinterpret_cast<char*>(&ui64ReadCount), scalarBlockSize(), error) &&
+        cacheStatistics.serialize(write, file, error);
 }
 
 void KLunIoStatistics::subtract(const KLunIoStatistics& other)
@@ -57,7 +56,6 @@ void KLunIoStatistics::subtract(const KLunIoStatistics& other)
 std::string KLunIoStatistics::displayText() const
 {
     return "        I/O Count Read/Write:       [ " + ui64NumberToText(ui64ReadCount) + "\t/ " +
-           ui64NumberToText(ui64WriteCount) + " ]\n" + "        Read/Write I/O:             [ " +
-           longlongToMByteText(ui64ReadBlocks * 512) + "\t/ " + longlongToMByteText(ui64WriteBlocks * 512) +
-           " ]\n";
+        ui64NumberToText(ui64WriteCount) + " ]\n" + "        Read/Write I/O:             [ " +
+        longlongToMByteText(ui64ReadBlocks * 512) + "\t/ " + longlongToMByteText(ui64WriteBlocks * 512) + " ]\n";
 }

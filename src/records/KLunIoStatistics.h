@@ -20,8 +20,8 @@ public:
 
     uint64_t ui64ReadCount;
     uint64_t ui64WriteCount;
-    uint64_t ui64ReadBlocks;   // 512-byte blocks
-    uint64_t ui64WriteBlocks;  // 512-byte blocks
+    uint64_t ui64ReadBlocks;  // 512-byte blocks
+    uint64_t ui64WriteBlocks; // 512-byte blocks
     KLunCacheStatistics cacheStatistics;
 
 private:

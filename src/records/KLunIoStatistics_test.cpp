@@ -18,12 +18,13 @@ KLunIoStatistics someIo()
     return io;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KLunIoStatistics, TextShowsCountsAndBlocksAsSizes)
 {
-    EXPECT_EQ(someIo().displayText(), "        I/O Count Read/Write:       [ 10\t/ 20 ]\n"
-                                      "        Read/Write I/O:             [ 1MB\t/ 2KB ]\n");
+    EXPECT_EQ(someIo().displayText(),
+              "        I/O Count Read/Write:       [ 10\t/ 20 ]\n"
+              "        Read/Write I/O:             [ 1MB\t/ 2KB ]\n");
 }
 
 TEST(KLunIoStatistics, SubtractLeavesTheCacheCountersAlone)

@@ -40,7 +40,7 @@ std::string KFcLunPathInfo::displayText() const
     unsigned char portId[sizeof(ui8PortId)];
     memcpy(portId, ui8PortId, sizeof(portId));
     return "            WWPN = " + wwnameToText(ui8Wwpn) + "\n            WWNN = " + wwnameToText(ui8Wwnn) +
-           "\n            Port ID = " + portIdToText(portId, sizeof(portId)) + "\n";
+        "\n            Port ID = " + portIdToText(portId, sizeof(portId)) + "\n";
 }
 
 // ---- iSCSI path ---------------------------------------------------------------
@@ -86,14 +86,14 @@ void KIscsiLunPathInfo::init()
 bool KIscsiLunPathInfo::serialize(bool write, FILE* file, std::string& error)
 {
     return base_serialize(write, file, szTargetName, scalarBlockSize(), error) &&
-           ipAddress.serialize(write, file, error);
+        ipAddress.serialize(write, file, error);
 }
 
 std::string KIscsiLunPathInfo::displayText() const
 {
     return "            iSCSI Target Name = " + charFieldToText(szTargetName) +
-           "\n            IP Address = " + ipAddress.displayText() +
-           "\n            TCP Port = " + ui64NumberToText(ui32TcpPort) + "\n";
+        "\n            IP Address = " + ipAddress.displayText() +
+        "\n            TCP Port = " + ui64NumberToText(ui32TcpPort) + "\n";
 }
 
 // ---- one path -----------------------------------------------------------------
@@ -142,25 +142,38 @@ void KLunPathInfo::init()
 bool KLunPathInfo::serialize(bool write, FILE* file, std::string& error)
 {
     return base_serialize(write, file, reinterpret_cast<char*>(&ui32PathReserved), scalarBlockSize(), error) &&
-           fcPath.serialize(write, file, error) && iscsiPath.serialize(write, file, error);
+        fcPath.serialize(write, file, error) && iscsiPath.serialize(write, file, error);
 }
 
 std::string KLunPathInfo::lunPathStatusToText(LUNPATH_STATUS_TYPE status)
 {
     switch (status) {
-    case LUNPATH_STATUS_OFFLINE: return "Offline";
-    case LUNPATH_STATUS_ACTIVE: return "Active";
-    case LUNPATH_STATUS_ACTIVE_CURRENT_OPTIMIZED: return "Active Current Optimized";
-    case LUNPATH_STATUS_ACTIVE_OPTIMIZED: return "Active Optimized";
-    case LUNPATH_STATUS_ACTIVE_CURRENT: return "Active Current";
-    case LUNPATH_STATUS_PASSIVE: return "Passive";
-    case LUNPATH_STATUS_PASSIVE_CURRENT_OPTIMIZED: return "Passive Current Optimized";
-    case LUNPATH_STATUS_PASSIVE_OPTIMIZED: return "Passive Optimized";
-    case LUNPATH_STATUS_PASSIVE_CURRENT: return "Passive Current";
-    case LUNPATH_STATUS_OPTIMIZED: return "Optimized";
-    case LUNPATH_STATUS_CURRENT_OPTIMIZED: return "Current Optimized";
-    case LUNPATH_STATUS_CURRENT: return "Current";
-    default: return "Unknown";
+    case LUNPATH_STATUS_OFFLINE:
+        return "Offline";
+    case LUNPATH_STATUS_ACTIVE:
+        return "Active";
+    case LUNPATH_STATUS_ACTIVE_CURRENT_OPTIMIZED:
+        return "Active Current Optimized";
+    case LUNPATH_STATUS_ACTIVE_OPTIMIZED:
+        return "Active Optimized";
+    case LUNPATH_STATUS_ACTIVE_CURRENT:
+        return "Active Current";
+    case LUNPATH_STATUS_PASSIVE:
+        return "Passive";
+    case LUNPATH_STATUS_PASSIVE_CURRENT_OPTIMIZED:
+        return "Passive Current Optimized";
+    case LUNPATH_STATUS_PASSIVE_OPTIMIZED:
+        return "Passive Optimized";
+    case LUNPATH_STATUS_PASSIVE_CURRENT:
+        return "Passive Current";
+    case LUNPATH_STATUS_OPTIMIZED:
+        return "Optimized";
+    case LUNPATH_STATUS_CURRENT_OPTIMIZED:
+        return "Current Optimized";
+    case LUNPATH_STATUS_CURRENT:
+        return "Current";
+    default:
+        return "Unknown";
     }
 }
 

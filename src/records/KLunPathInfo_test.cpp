@@ -32,27 +32,29 @@ KLunPathInfo iscsiPath()
     return path;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KLunPathInfo, FibreChannelPath)
 {
     const KLunPathInfo path = fcPath();
     EXPECT_TRUE(path.isFcTarget());
     EXPECT_FALSE(path.isIscsiTarget());
-    EXPECT_EQ(path.displayText(), "            WWPN = 2100-0024-FF01-0203\n"
-                                  "            WWNN = 2000-0024-FF01-0203\n"
-                                  "            Port ID = 01-02-03\n"
-                                  "            Status:  Active Current Optimized\n");
+    EXPECT_EQ(path.displayText(),
+              "            WWPN = 2100-0024-FF01-0203\n"
+              "            WWNN = 2000-0024-FF01-0203\n"
+              "            Port ID = 01-02-03\n"
+              "            Status:  Active Current Optimized\n");
 }
 
 TEST(KLunPathInfo, IscsiPath)
 {
     const KLunPathInfo path = iscsiPath();
     EXPECT_TRUE(path.isIscsiTarget());
-    EXPECT_EQ(path.displayText(), "            iSCSI Target Name = iqn.2001-04.com.example:disk1\n"
-                                  "            IP Address = 10.0.0.5\n"
-                                  "            TCP Port = 3260\n"
-                                  "            Status:  Unknown\n");
+    EXPECT_EQ(path.displayText(),
+              "            iSCSI Target Name = iqn.2001-04.com.example:disk1\n"
+              "            IP Address = 10.0.0.5\n"
+              "            TCP Port = 3260\n"
+              "            Status:  Unknown\n");
 }
 
 TEST(KLunPathInfo, IscsiPathWithoutAddress)
@@ -73,9 +75,9 @@ TEST(KLunPathInfo, OtherTargetTypeShowsOnlyTheStatus)
 TEST(KLunPathInfo, StatusTexts)
 {
     const char* expected[13] = {
-        "Unknown",        "Offline",          "Active",          "Active Current Optimized",
-        "Active Optimized", "Active Current", "Passive",         "Passive Current Optimized",
-        "Passive Optimized", "Passive Current", "Optimized",     "Current Optimized",
+        "Unknown",           "Offline",         "Active",    "Active Current Optimized",
+        "Active Optimized",  "Active Current",  "Passive",   "Passive Current Optimized",
+        "Passive Optimized", "Passive Current", "Optimized", "Current Optimized",
         "Current",
     };
     for (int status = 0; status < 13; ++status)

@@ -34,15 +34,24 @@ void KLunReservationInfo::init()
 std::string KLunReservationInfo::reservationTypeToText(KISA_RESERVATION_TYPE type)
 {
     switch (type) {
-    case RESERVATION_TYPE_UNKNOWN: return "***Reservation Type Unknown***";
-    case RESERVATION_NONE: return "No Reservation Held";
-    case RESERVATION_WRITE_EXCLUSIVE: return "Write Exclusive";
-    case RESERVATION_EXCLUSIVE_ACCESS: return "Exclusive Access";
-    case RESERVATION_WRITE_EXCLUSIVE_REGISTRANTS_ONLY: return "Write Exclusive, Registrants Only";
-    case RESERVATION_EXCLUSIVE_ACCESS_REGISTRANTS_ONLY: return "Exclusive Access, Registrants Only";
-    case RESERVATION_WRITE_EXCLUSIVE_ALL_REGISTRANTS: return "Write Exclusive, All Registrants";
-    case RESERVATION_EXCLUSIVE_ACCESS_ALL_REGISTRANTS: return "Exclusive Access, All Registrants";
-    default: return "***Reservation Type UNKNOWN***";
+    case RESERVATION_TYPE_UNKNOWN:
+        return "***Reservation Type Unknown***";
+    case RESERVATION_NONE:
+        return "No Reservation Held";
+    case RESERVATION_WRITE_EXCLUSIVE:
+        return "Write Exclusive";
+    case RESERVATION_EXCLUSIVE_ACCESS:
+        return "Exclusive Access";
+    case RESERVATION_WRITE_EXCLUSIVE_REGISTRANTS_ONLY:
+        return "Write Exclusive, Registrants Only";
+    case RESERVATION_EXCLUSIVE_ACCESS_REGISTRANTS_ONLY:
+        return "Exclusive Access, Registrants Only";
+    case RESERVATION_WRITE_EXCLUSIVE_ALL_REGISTRANTS:
+        return "Write Exclusive, All Registrants";
+    case RESERVATION_EXCLUSIVE_ACCESS_ALL_REGISTRANTS:
+        return "Exclusive Access, All Registrants";
+    default:
+        return "***Reservation Type UNKNOWN***";
     }
 }
 

@@ -35,7 +35,7 @@ void writeCounted(FILE* file, uint32_t length, const unsigned char* field, uint3
     fwrite(field, 1, length, file);
 }
 
-}  // namespace
+} // namespace
 
 KManagementSession::KManagementSession()
 {

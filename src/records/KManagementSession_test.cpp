@@ -106,4 +106,4 @@ TEST(KManagementSession, HasNoText)
     EXPECT_EQ("", session().displayText());
 }
 
-}  // namespace
+} // namespace

@@ -7,7 +7,7 @@ std::string freeOfTotal(int32_t free, int32_t total)
     return PBase::numberToText(free) + " / " + PBase::numberToText(total);
 }
 
-}  // namespace
+} // namespace
 
 KMemoryInfo::KMemoryInfo() : PBase()
 {

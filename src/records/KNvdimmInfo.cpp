@@ -28,12 +28,14 @@ std::string bitNames(uint32_t mask, const BitName (&names)[N], const char* none,
 }
 
 const BitName kNvdimmStatus[] = {
-    {1, "Not Armed"}, {2, "Armed"}, {4, "NVDIMM Update in Progress"},
-    {8, "Super Cap Update in Progress"}, {16, "Panic Deteced"},
+    {1, "Not Armed"},      {2, "Armed"}, {4, "NVDIMM Update in Progress"}, {8, "Super Cap Update in Progress"},
+    {16, "Panic Deteced"},
 };
 
 const BitName kNvdimmAdditionalStatus[] = {
-    {1, "Free Flash Block Warn"}, {2, "Free Flash Block Fail"}, {4, "Restore Failed"},
+    {1, "Free Flash Block Warn"},
+    {2, "Free Flash Block Fail"},
+    {4, "Restore Failed"},
 };
 
 const BitName kSuperCapStatusFlags[] = {{4, "Full Charged"}, {128, "Initialized"}};
@@ -43,7 +45,7 @@ const char* const kSuperCapChargeStates[] = {"Idle", "Charging", "Discharged", "
 const BitName kSuperCapPowerState[] = {{1, "Good"}, {2, "Backup output power good"}};
 
 const BitName kSuperCapWarning[] = {
-    {1, "Under Capacitance"}, {2, "Over ESR"}, {4, "Over Current Charging"},
+    {1, "Under Capacitance"},        {2, "Over ESR"},        {4, "Over Current Charging"},
     {8, "Over Current Discharging"}, {16, "Supercap Fault"},
 };
 
@@ -58,7 +60,7 @@ std::string codeAndMeaning(uint32_t code, const std::string& meaning)
     return " 0x" + PBase::numberToHexText(code) + " (" + meaning + ")";
 }
 
-}  // namespace
+} // namespace
 
 KNvdimmInfo::KNvdimmInfo() : PBase()
 {
@@ -101,11 +103,16 @@ void KNvdimmInfo::init()
 std::string KNvdimmInfo::superCapHealthToText(KISA_SUPERCAP_HEALTH health)
 {
     switch (health) {
-    case SUPERCAP_HEALTH_OVERCHARGED: return "Overcharged";
-    case SUPERCAP_HEALTH_END_OF_LIFE: return "End of Life";
-    case SUPERCAP_HEALTH_WEAK: return "Weak";
-    case SUPERCAP_HEALTH_GOOD: return "Good";
-    default: return "Unknown";
+    case SUPERCAP_HEALTH_OVERCHARGED:
+        return "Overcharged";
+    case SUPERCAP_HEALTH_END_OF_LIFE:
+        return "End of Life";
+    case SUPERCAP_HEALTH_WEAK:
+        return "Weak";
+    case SUPERCAP_HEALTH_GOOD:
+        return "Good";
+    default:
+        return "Unknown";
     }
 }
 
@@ -151,7 +158,7 @@ std::string KNvdimmInfo::nvdimmText() const
     text += "\n    NVDIMM Status:              " + codeAndMeaning(nvdimmStatus, nvdimmStatusToText(nvdimmStatus));
     if ((nvdimmStatus & NVDIMM_STATUS_NOT_ARMED) != 0)
         text += "\n    NVDIMM Additional Status:   " +
-                codeAndMeaning(nvdimmAdditionalStatus, nvdimmAdditionalStatusToText(nvdimmAdditionalStatus));
+            codeAndMeaning(nvdimmAdditionalStatus, nvdimmAdditionalStatusToText(nvdimmAdditionalStatus));
     return text;
 }
 
@@ -164,11 +171,11 @@ std::string KNvdimmInfo::superCapText() const
     text += "\n    Super Cap Packaged Revision: 0x" + numberToHexText(superCapPackagedRevision);
     text += "\n    Super Cap Status:           " + codeAndMeaning(superCapStatus, superCapStatusToText(superCapStatus));
     text += "\n    Super Cap Power Status:     " +
-            codeAndMeaning(superCapPowerState, superCapPowerStateToText(superCapPowerState));
+        codeAndMeaning(superCapPowerState, superCapPowerStateToText(superCapPowerState));
     text += "\n    Super Cap Health:           " +
-            codeAndMeaning(static_cast<uint32_t>(superCapHealth), superCapHealthToText(superCapHealth));
-    text += "\n    Super Cap Warning:          " +
-            codeAndMeaning(superCapWarning, superCapWarningToText(superCapWarning));
+        codeAndMeaning(static_cast<uint32_t>(superCapHealth), superCapHealthToText(superCapHealth));
+    text +=
+        "\n    Super Cap Warning:          " + codeAndMeaning(superCapWarning, superCapWarningToText(superCapWarning));
     text += "\n    Super Cap Charged Percent:  " + numberToText(superCapChargedPercent) + "%";
     return text;
 }

@@ -84,16 +84,23 @@ TEST(KNvdimmInfo, BlankRecord)
               "\n    NVDIMM Temperature:         0C"
               "\n    NVDIMM Serial Number:       "
               "\n    NVDIMM Part Number:         "
-              "\n    NVDIMM Status:              " " 0x0 (Unknown)"
+              "\n    NVDIMM Status:              "
+              " 0x0 (Unknown)"
               "\n    Super Cap Detected:         False"
               "\n    Super Cap Serial Number:\t   "
               "\n    Super Cap Part Number:      "
-              "\n    Super Cap Firmware Revision:" " 0x0"
-              "\n    Super Cap Packaged Revision:" " 0x0"
-              "\n    Super Cap Status:           " " 0x81 (Charging, Initialized)"
-              "\n    Super Cap Power Status:     " " 0x0 (Unknown)"
-              "\n    Super Cap Health:           " " 0x4 (Unknown)"
-              "\n    Super Cap Warning:          " " 0x0 (None)"
+              "\n    Super Cap Firmware Revision:"
+              " 0x0"
+              "\n    Super Cap Packaged Revision:"
+              " 0x0"
+              "\n    Super Cap Status:           "
+              " 0x81 (Charging, Initialized)"
+              "\n    Super Cap Power Status:     "
+              " 0x0 (Unknown)"
+              "\n    Super Cap Health:           "
+              " 0x4 (Unknown)"
+              "\n    Super Cap Warning:          "
+              " 0x0 (None)"
               "\n    Super Cap Charged Percent:  0%"
               "\n\n");
 }
@@ -101,7 +108,7 @@ TEST(KNvdimmInfo, BlankRecord)
 TEST(KNvdimmInfo, ArmedModuleWithSuperCap)
 {
     KNvdimmInfo info;
-    memcpy(info.firmwareVersion, "1.2", 3);  // fills the field with no NUL
+    memcpy(info.firmwareVersion, "1.2", 3); // fills the field with no NUL
     memcpy(info.packagedVersion, "07", 3);
     info.temperature = 37;
     strcpy(info.serialNumber, "NV-0001");
@@ -125,16 +132,23 @@ TEST(KNvdimmInfo, ArmedModuleWithSuperCap)
               "\n    NVDIMM Temperature:         37C"
               "\n    NVDIMM Serial Number:       NV-0001"
               "\n    NVDIMM Part Number:         NVD-8GB"
-              "\n    NVDIMM Status:              " " 0x2 (Armed)"
+              "\n    NVDIMM Status:              "
+              " 0x2 (Armed)"
               "\n    Super Cap Detected:         True"
               "\n    Super Cap Serial Number:\t   SC-77"
               "\n    Super Cap Part Number:      SCP-1"
-              "\n    Super Cap Firmware Revision:" " 0x1a"
-              "\n    Super Cap Packaged Revision:" " 0x2b"
-              "\n    Super Cap Status:           " " 0x84 (Idle, Full Charged, Initialized)"
-              "\n    Super Cap Power Status:     " " 0x3 (Good, Backup output power good)"
-              "\n    Super Cap Health:           " " 0x3 (Good)"
-              "\n    Super Cap Warning:          " " 0x0 (None)"
+              "\n    Super Cap Firmware Revision:"
+              " 0x1a"
+              "\n    Super Cap Packaged Revision:"
+              " 0x2b"
+              "\n    Super Cap Status:           "
+              " 0x84 (Idle, Full Charged, Initialized)"
+              "\n    Super Cap Power Status:     "
+              " 0x3 (Good, Backup output power good)"
+              "\n    Super Cap Health:           "
+              " 0x3 (Good)"
+              "\n    Super Cap Warning:          "
+              " 0x0 (None)"
               "\n    Super Cap Charged Percent:  100%"
               "\n\n");
 }
@@ -144,8 +158,10 @@ TEST(KNvdimmInfo, AdditionalStatusOnlyWhenNotArmed)
     KNvdimmInfo info;
     info.nvdimmStatus = 0x11;
     info.nvdimmAdditionalStatus = 3;
-    EXPECT_NE(info.displayText().find("\n    NVDIMM Status:              " " 0x11 (Not Armed, Panic Deteced)"
-                                      "\n    NVDIMM Additional Status:   " " 0x3 (Free Flash Block Warn, Free Flash "
+    EXPECT_NE(info.displayText().find("\n    NVDIMM Status:              "
+                                      " 0x11 (Not Armed, Panic Deteced)"
+                                      "\n    NVDIMM Additional Status:   "
+                                      " 0x3 (Free Flash Block Warn, Free Flash "
                                       "Block Fail)"
                                       "\n    Super Cap Detected:"),
               std::string::npos);

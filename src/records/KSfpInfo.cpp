@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr unsigned int kFigureCount = 5;  // temperature, voltage, Tx bias, Tx power, Rx power
+constexpr unsigned int kFigureCount = 5; // temperature, voltage, Tx bias, Tx power, Rx power
 
 enum FigureRow : unsigned int {
     ROW_VALUE = 0,
@@ -18,19 +18,22 @@ enum FigureRow : unsigned int {
 // follows it. The limits lie in the diagnostics area that starts at 256.
 constexpr unsigned int kFigureIndex[kFigureCount][5] = {
     // value, high alarm, high warning, low warning, low alarm
-    {352, 256, 260, 262, 258},
-    {354, 264, 268, 270, 266},
-    {356, 272, 276, 278, 274},
-    {358, 280, 284, 286, 282},
-    {360, 288, 292, 294, 290},
+    {352, 256, 260, 262, 258}, {354, 264, 268, 270, 266}, {356, 272, 276, 278, 274},
+    {358, 280, 284, 286, 282}, {360, 288, 292, 294, 290},
 };
 
 const char* const kDriverStatusTexts[8] = {
-    "No error",           "Driver not ready", "Driver no resource", "Data transfer error",
-    "Firmware no resource", "Read timeout",   "SFP not present",    "Unknown",
+    "No error",
+    "Driver not ready",
+    "Driver no resource",
+    "Data transfer error",
+    "Firmware no resource",
+    "Read timeout",
+    "SFP not present",
+    "Unknown",
 };
 
-}  // namespace
+} // namespace
 
 float getValue(char high, char low)
 {
@@ -134,9 +137,9 @@ std::string KSfpInfo::statusRow() const
     for (unsigned int column = 0; column < kFigureCount; ++column) {
         if (column != 0)
             text += "\t\t";
-        text += getSFPStatus(figure(column, ROW_VALUE), figure(column, ROW_HIGH_ALARM),
-                             figure(column, ROW_HIGH_WARNING), figure(column, ROW_LOW_WARNING),
-                             figure(column, ROW_LOW_ALARM));
+        text +=
+            getSFPStatus(figure(column, ROW_VALUE), figure(column, ROW_HIGH_ALARM), figure(column, ROW_HIGH_WARNING),
+                         figure(column, ROW_LOW_WARNING), figure(column, ROW_LOW_ALARM));
     }
     return text;
 }

@@ -36,7 +36,7 @@ public:
 
     static std::string driverStatusToText(uint32_t status);
 
-    uint32_t portIndex;  // from 0; shown plus one
+    uint32_t portIndex; // from 0; shown plus one
     char vendorName[17];
     char serialNumber[17];
     uint32_t driverStatus;

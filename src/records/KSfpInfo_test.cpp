@@ -22,11 +22,11 @@ KSfpInfo diagnostics()
     strcpy(sfp.vendorName, "ACME OPTICS");
     strcpy(sfp.serialNumber, "SN12345");
     sfp.driverStatus = KSfpInfo::DRIVER_STATUS_NO_ERROR;
-    putWord(sfp, 352, 0x1940);  // 25.25 C
-    putWord(sfp, 256, 0x5000);  // high alarm 80 C
-    putWord(sfp, 258, 0xF600);  // low alarm, below zero
-    putWord(sfp, 260, 0x4600);  // high warning 70 C
-    putWord(sfp, 262, 0x0000);  // low warning 0 C
+    putWord(sfp, 352, 0x1940); // 25.25 C
+    putWord(sfp, 256, 0x5000); // high alarm 80 C
+    putWord(sfp, 258, 0xF600); // low alarm, below zero
+    putWord(sfp, 260, 0x4600); // high warning 70 C
+    putWord(sfp, 262, 0x0000); // low warning 0 C
     putWord(sfp, 354, 33000);
     putWord(sfp, 264, 36000);
     putWord(sfp, 266, 29000);
@@ -45,7 +45,7 @@ KSfpInfo diagnostics()
     return sfp;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KSfpInfo, FullText)
 {
@@ -95,9 +95,14 @@ TEST(KSfpInfo, StatusAgainstTheLimits)
 
 TEST(KSfpInfo, DriverStatusTexts)
 {
-    const char* expected[8] = {"No error",           "Driver not ready", "Driver no resource",
-                               "Data transfer error", "Firmware no resource", "Read timeout",
-                               "SFP not present",    "Unknown"};
+    const char* expected[8] = {"No error",
+                               "Driver not ready",
+                               "Driver no resource",
+                               "Data transfer error",
+                               "Firmware no resource",
+                               "Read timeout",
+                               "SFP not present",
+                               "Unknown"};
     for (uint32_t status = 0; status < 8; ++status)
         EXPECT_EQ(KSfpInfo::driverStatusToText(status), expected[status]);
     EXPECT_EQ(KSfpInfo::driverStatusToText(8), "");
@@ -108,7 +113,8 @@ TEST(KSfpInfo, FreshRecordHasUnknownDriverStatus)
 {
     KSfpInfo sfp;
     EXPECT_EQ(sfp.driverStatus, 7u);
-    const std::string head = "    SFP Port = 1\n    Vendor Name = \n    Serial Number = \n    Driver Status = Unknown\n";
+    const std::string head =
+        "    SFP Port = 1\n    Vendor Name = \n    Serial Number = \n    Driver Status = Unknown\n";
     EXPECT_EQ(sfp.displayText().substr(0, head.size()), head);
     sfp.driverStatus = 8;
     EXPECT_NE(sfp.displayText().find("    Driver Status = \n\n"), std::string::npos);

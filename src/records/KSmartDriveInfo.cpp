@@ -11,7 +11,7 @@ std::string boundedText(const char* field, size_t size)
     return std::string(field, strnlen(field, size));
 }
 
-}  // namespace
+} // namespace
 
 // ---- KSmartDriveAttribute ----------------------------------------------------
 
@@ -151,9 +151,12 @@ const KSmartDriveAttribute* KSmartDriveInfo::vecAt(unsigned int index) const
 std::string KSmartDriveInfo::smartStatusToText(SMART_STATUS_TYPE status)
 {
     switch (status) {
-    case SMART_STATUS_PASS: return "pass";
-    case SMART_STATUS_FAIL: return "FAIL";
-    default: return "Unknown";
+    case SMART_STATUS_PASS:
+        return "pass";
+    case SMART_STATUS_FAIL:
+        return "FAIL";
+    default:
+        return "Unknown";
     }
 }
 
@@ -162,8 +165,7 @@ std::string KSmartDriveInfo::displayText() const
     return displayText(KSmartDriveAttribute::SMART_DISPLAY_ALWAYS);
 }
 
-std::string KSmartDriveInfo::displayText(KSmartDriveAttribute::SMART_DISPLAY_TYPE type,
-                                         const std::string&) const
+std::string KSmartDriveInfo::displayText(KSmartDriveAttribute::SMART_DISPLAY_TYPE type, const std::string&) const
 {
     if (isSmartDataValid == 0)
         return std::string();

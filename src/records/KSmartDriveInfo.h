@@ -59,8 +59,7 @@ public:
     bool serialize(bool write, FILE* file, std::string& error) override;
     std::string displayText() const override;
     // `prefix` is accepted for the callers' sake and changes nothing.
-    std::string displayText(KSmartDriveAttribute::SMART_DISPLAY_TYPE type,
-                            const std::string& prefix = "    ") const;
+    std::string displayText(KSmartDriveAttribute::SMART_DISPLAY_TYPE type, const std::string& prefix = "    ") const;
 
     unsigned int vecSize() const { return attributeCount; }
     // Null for an index outside the attribute array.

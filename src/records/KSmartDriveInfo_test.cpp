@@ -19,12 +19,11 @@ KSmartDriveAttribute attribute(int id, const char* name, KSmartDriveAttribute::S
     return a;
 }
 
-const char* const kSmartHeader =
-    "\n   Smart Drive Information:"
-    "\n   Smart Drive Status:   pass"
-    "\n\n   Vendor Specific SMART Attributes with Thresholds:"
-    "\n"
-    "\n   ID ATTRIBUTE_NAME                    VALUE      WORST     THRESH  RAW_VALUE";
+const char* const kSmartHeader = "\n   Smart Drive Information:"
+                                 "\n   Smart Drive Status:   pass"
+                                 "\n\n   Vendor Specific SMART Attributes with Thresholds:"
+                                 "\n"
+                                 "\n   ID ATTRIBUTE_NAME                    VALUE      WORST     THRESH  RAW_VALUE";
 
 const char* const kRow5 = "\n    5 Reallocated_Sector_Ct              100         99         10   0x12";
 const char* const kRow9 = "\n    9 Power_On_Hours                     100         99         10   0x12";
@@ -40,7 +39,7 @@ KSmartDriveInfo twoAttributes()
     return info;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KSmartDriveAttribute, RowIsAppendedToTheTextBefore)
 {
@@ -51,9 +50,9 @@ TEST(KSmartDriveAttribute, RowIsAppendedToTheTextBefore)
 
 TEST(KSmartDriveAttribute, LongNameIsNotCut)
 {
-    KSmartDriveAttribute a = attribute(1, "A_Name_Longer_Than_Thirty_Characters", KSmartDriveAttribute::SMART_DISPLAY_ALWAYS);
-    EXPECT_EQ(a.displayText(""),
-              "\n    1 A_Name_Longer_Than_Thirty_Characters     100         99         10   0x12");
+    KSmartDriveAttribute a =
+        attribute(1, "A_Name_Longer_Than_Thirty_Characters", KSmartDriveAttribute::SMART_DISPLAY_ALWAYS);
+    EXPECT_EQ(a.displayText(""), "\n    1 A_Name_Longer_Than_Thirty_Characters     100         99         10   0x12");
 }
 
 TEST(KSmartDriveAttribute, UnterminatedTextsStopAtTheirField)
@@ -105,8 +104,7 @@ TEST(KSmartDriveInfo, NormalListingLeavesOutVerboseAttributes)
 TEST(KSmartDriveInfo, VerboseListingShowsAllAttributes)
 {
     KSmartDriveInfo info = twoAttributes();
-    EXPECT_EQ(info.displayText(KSmartDriveAttribute::SMART_DISPLAY_VERBOSE),
-              std::string(kSmartHeader) + kRow5 + kRow9);
+    EXPECT_EQ(info.displayText(KSmartDriveAttribute::SMART_DISPLAY_VERBOSE), std::string(kSmartHeader) + kRow5 + kRow9);
 }
 
 TEST(KSmartDriveInfo, PrefixChangesNothing)

@@ -18,8 +18,9 @@ TEST(KSsdLunInfo, PlainLocalLun)
     info.ui64SizeBytes = 2147483648ULL;
     strcpy(info.szSymbolicName, "data1");
     info.eSsdMirrorType = KSsdLunInfo::SSD_MIRROR_NONE;
-    EXPECT_EQ(info.displayText(), "    ZEK local LUN, Size = 2GB, (4194304 blocks)\n"
-                                  "    Symbolic Name = \"data1\"\n");
+    EXPECT_EQ(info.displayText(),
+              "    ZEK local LUN, Size = 2GB, (4194304 blocks)\n"
+              "    Symbolic Name = \"data1\"\n");
 }
 
 TEST(KSsdLunInfo, ReadOnlyDeletingMirroredLun)
@@ -32,11 +33,12 @@ TEST(KSsdLunInfo, ReadOnlyDeletingMirroredLun)
     info.bDeleteInProgress = true;
     info.eSsdMirrorType = KSsdLunInfo::SSD_MIRROR_SSD_SSD;
     info.ui64MirrorPeerAdapter = 0x2000ABC;
-    EXPECT_EQ(info.displayText(), "    ZEK local LUN, Size = 1MB, (2048 blocks)\n"
-                                  "    Symbolic Name = \"db logs\"\n"
-                                  "    READ-ONLY\n"
-                                  "    *** DELETE IN PROGRESS ***\n"
-                                  "    SSD-SSD Mirror,  (Mirrored Peer Adapter -zek=2000ABC )\n");
+    EXPECT_EQ(info.displayText(),
+              "    ZEK local LUN, Size = 1MB, (2048 blocks)\n"
+              "    Symbolic Name = \"db logs\"\n"
+              "    READ-ONLY\n"
+              "    *** DELETE IN PROGRESS ***\n"
+              "    SSD-SSD Mirror,  (Mirrored Peer Adapter -zek=2000ABC )\n");
     EXPECT_TRUE(info.isReadOnly());
     EXPECT_TRUE(info.isDeleteInProgress());
     EXPECT_TRUE(info.isSsdLunInfoValid());

@@ -40,8 +40,8 @@ std::string KFcTargetInfo::displayText() const
 
 std::string KFcTargetInfo::displayText(const std::string& prefix) const
 {
-    return "\n" + prefix + "WWNN:    " + wwnnToString() + "\n" + prefix + "WWPN:    " + wwpnToString() + "\n" +
-           prefix + "Port ID: " + portIdToString() + "\n";
+    return "\n" + prefix + "WWNN:    " + wwnnToString() + "\n" + prefix + "WWPN:    " + wwpnToString() + "\n" + prefix +
+        "Port ID: " + portIdToString() + "\n";
 }
 
 // ---- iSCSI names --------------------------------------------------------------
@@ -84,8 +84,8 @@ std::string KIscsiTargetInfo::displayText() const
 
 std::string KIscsiTargetInfo::displayText(const std::string& prefix) const
 {
-    return "\n" + prefix + "iSCSI Name = " + charFieldToText(iscsiName) +
-           "\n" + prefix + "CHAP is " + enableToText(chapEnabled) + "\n";
+    return "\n" + prefix + "iSCSI Name = " + charFieldToText(iscsiName) + "\n" + prefix + "CHAP is " +
+        enableToText(chapEnabled) + "\n";
 }
 
 // ---- the target ---------------------------------------------------------------
@@ -135,17 +135,22 @@ void KTargetInfo::init()
 bool KTargetInfo::serialize(bool write, FILE* file, std::string& error)
 {
     return base_serialize(write, file, reinterpret_cast<char*>(&protocol), scalarBlockSize(), error) &&
-           fc.serialize(write, file, error) && iscsi.serialize(write, file, error);
+        fc.serialize(write, file, error) && iscsi.serialize(write, file, error);
 }
 
 std::string KTargetInfo::portalModeToText(KISA_PORTAL_MODE_TYPE mode)
 {
     switch (mode) {
-    case PORTAL_MODE_FCP: return "FCP";
-    case PORTAL_MODE_FRAME_SHUTTLE: return "FRAME_SHUTTLE";
-    case PORTAL_MODE_FCOE: return "_FCOE";
-    case PORTAL_MODE_ISCSI_OVER_FCOE: return "ISCSI_OVER_FCOE";
-    default: return "Unknown";
+    case PORTAL_MODE_FCP:
+        return "FCP";
+    case PORTAL_MODE_FRAME_SHUTTLE:
+        return "FRAME_SHUTTLE";
+    case PORTAL_MODE_FCOE:
+        return "_FCOE";
+    case PORTAL_MODE_ISCSI_OVER_FCOE:
+        return "ISCSI_OVER_FCOE";
+    default:
+        return "Unknown";
     }
 }
 

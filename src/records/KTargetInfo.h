@@ -81,8 +81,8 @@ public:
     bool mapped;
     bool discoveredOnPort1;
     bool discoveredOnPort2;
-    bool internal;  // the adapter's own target, hidden from lists
-    uint32_t maxOutstandingIo;  // 0 when no limit is set
+    bool internal;             // the adapter's own target, hidden from lists
+    uint32_t maxOutstandingIo; // 0 when no limit is set
     KISA_PORTAL_MODE_TYPE portalMode;
     KFcTargetInfo fc;
     KIscsiTargetInfo iscsi;

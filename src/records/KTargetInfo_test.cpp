@@ -36,26 +36,28 @@ KTargetInfo iscsiTarget()
     return info;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KTargetInfo, FibreChannelTarget)
 {
-    EXPECT_EQ(fcTarget().displayText(), "FC Target \n"
-                                        "    WWNN:    2000-0011-2233-4455\n"
-                                        "    WWPN:    2100-0011-2233-4455\n"
-                                        "    Port ID: 01-02-03\n"
-                                        "    Target State = online, mapped, FC1/FC2\n"
-                                        "    Target Portal Mode = FCP\n"
-                                        "    Max Outstanding IO = 256\n");
+    EXPECT_EQ(fcTarget().displayText(),
+              "FC Target \n"
+              "    WWNN:    2000-0011-2233-4455\n"
+              "    WWPN:    2100-0011-2233-4455\n"
+              "    Port ID: 01-02-03\n"
+              "    Target State = online, mapped, FC1/FC2\n"
+              "    Target Portal Mode = FCP\n"
+              "    Max Outstanding IO = 256\n");
 }
 
 TEST(KTargetInfo, IscsiTargetWithPrefix)
 {
-    EXPECT_EQ(iscsiTarget().displayText("  "), "  iSCSI Target \n"
-                                               "      iSCSI Name = iqn.2001-04.com.example:t1\n"
-                                               "      CHAP is Enabled\n"
-                                               "      Target State = OFFLINE, ETH1\n"
-                                               "      Target Portal Mode = _FCOE\n");
+    EXPECT_EQ(iscsiTarget().displayText("  "),
+              "  iSCSI Target \n"
+              "      iSCSI Name = iqn.2001-04.com.example:t1\n"
+              "      CHAP is Enabled\n"
+              "      Target State = OFFLINE, ETH1\n"
+              "      Target Portal Mode = _FCOE\n");
 }
 
 TEST(KTargetInfo, UninitialisedProtocolGivesOnlyTheNotice)
@@ -127,7 +129,8 @@ TEST(KTargetInfo, Predicates)
 TEST(KTargetInfo, NameRecordsOnTheirOwn)
 {
     const KTargetInfo info = fcTarget();
-    EXPECT_EQ(info.fc.displayText(), "\nWWNN:    2000-0011-2233-4455\nWWPN:    2100-0011-2233-4455\nPort ID: 01-02-03\n");
+    EXPECT_EQ(info.fc.displayText(),
+              "\nWWNN:    2000-0011-2233-4455\nWWPN:    2100-0011-2233-4455\nPort ID: 01-02-03\n");
     EXPECT_EQ(info.fc.wwpnToString(), "2100-0011-2233-4455");
     EXPECT_EQ(info.fc.wwnnToString(), "2000-0011-2233-4455");
     EXPECT_EQ(info.fc.portIdToString(), "01-02-03");

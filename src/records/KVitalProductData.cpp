@@ -6,7 +6,7 @@ namespace {
 
 constexpr size_t kSerialNumberOffset = 20;
 
-}  // namespace
+} // namespace
 
 KVitalProductData::KVitalProductData()
 {
@@ -55,21 +55,17 @@ bool KVitalProductData::serialize(bool write, FILE* file, std::string& error)
 std::string KVitalProductData::displayText() const
 {
     const std::string rule(78, '-');
-    return rule +
-           "\nZEK             : " + adapterPath.displayText() +
-           "\nSN              : " + charFieldToText(serialNumber) +
-           "\nZEK Model       : " + charFieldToText(partNumber) +
-           "\nZEK Desc.       : " + charFieldToText(productIdentifier) +
-           "\nFW Version      : " + charFieldToText(firmwareVersion) +
-           rule +
-           "\nProduct Identifier                        : " + charFieldToText(productIdentifier) +
-           "\nPart Number                               : " + charFieldToText(partNumber) +
-           "\nSerial Number                             : " + charFieldToText(serialNumber) +
-           "\nMisc. Information                         : " + charFieldToText(miscInformation) +
-           "\nManufacturing Id                          : " + charFieldToText(manufacturingId) +
-           "\nEFI Driver Version                        : " + charFieldToText(efiDriverVersion) +
-           "\nFirmware Version                          : " + charFieldToText(firmwareVersion) +
-           "\nBIOS Version                              : " + charFieldToText(biosVersion) +
-           "\nFCode Version                             : " + charFieldToText(fcodeVersion) +
-           "\n";
+    return rule + "\nZEK             : " + adapterPath.displayText() +
+        "\nSN              : " + charFieldToText(serialNumber) + "\nZEK Model       : " + charFieldToText(partNumber) +
+        "\nZEK Desc.       : " + charFieldToText(productIdentifier) +
+        "\nFW Version      : " + charFieldToText(firmwareVersion) + rule +
+        "\nProduct Identifier                        : " + charFieldToText(productIdentifier) +
+        "\nPart Number                               : " + charFieldToText(partNumber) +
+        "\nSerial Number                             : " + charFieldToText(serialNumber) +
+        "\nMisc. Information                         : " + charFieldToText(miscInformation) +
+        "\nManufacturing Id                          : " + charFieldToText(manufacturingId) +
+        "\nEFI Driver Version                        : " + charFieldToText(efiDriverVersion) +
+        "\nFirmware Version                          : " + charFieldToText(firmwareVersion) +
+        "\nBIOS Version                              : " + charFieldToText(biosVersion) +
+        "\nFCode Version                             : " + charFieldToText(fcodeVersion) + "\n";
 }

@@ -33,22 +33,22 @@ TEST(KVitalProductData, TextWithBothRules)
 {
     const std::string rule(78, '-');
     std::string expected = rule +
-                           "\nZEK             : Adapter ID          = 12AB, (Local device 0)"
-                           "\nSN              : SN0001"
-                           "\nZEK Model       : ZEK-8200-2P"
-                           "\nZEK Desc.       : Caching FC adapter"
-                           "\nFW Version      : 4.2.0" +
-                           rule +
-                           "\nProduct Identifier                        : Caching FC adapter"
-                           "\nPart Number                               : ZEK-8200-2P"
-                           "\nSerial Number                             : SN0001"
-                           "\nMisc. Information                         : rev B"
-                           "\nManufacturing Id                          : M-77"
-                           "\nEFI Driver Version                        : 1.5"
-                           "\nFirmware Version                          : 4.2.0"
-                           "\nBIOS Version                              : 2.0"
-                           "\nFCode Version                             : 3.1"
-                           "\n";
+        "\nZEK             : Adapter ID          = 12AB, (Local device 0)"
+        "\nSN              : SN0001"
+        "\nZEK Model       : ZEK-8200-2P"
+        "\nZEK Desc.       : Caching FC adapter"
+        "\nFW Version      : 4.2.0" +
+        rule +
+        "\nProduct Identifier                        : Caching FC adapter"
+        "\nPart Number                               : ZEK-8200-2P"
+        "\nSerial Number                             : SN0001"
+        "\nMisc. Information                         : rev B"
+        "\nManufacturing Id                          : M-77"
+        "\nEFI Driver Version                        : 1.5"
+        "\nFirmware Version                          : 4.2.0"
+        "\nBIOS Version                              : 2.0"
+        "\nFCode Version                             : 3.1"
+        "\n";
     EXPECT_EQ(expected, productData().displayText());
 }
 
@@ -80,4 +80,4 @@ TEST(KVitalProductData, CopyAndInit)
     EXPECT_EQ("FFFFFFFFFFFFFFFF", copy.adapterPath.hbaIDText());
 }
 
-}  // namespace
+} // namespace

@@ -71,7 +71,7 @@ void appendThousandths(std::string& text, unsigned long long rem, unsigned int s
     text += PBase::ui64NumberToText((rem * 1000) >> shift);
 }
 
-}  // namespace
+} // namespace
 
 PBase::PBase() : untouchedWord(0), serialOffset(0), serialSize(0) {}
 
@@ -181,10 +181,22 @@ PBase::VPGROUP_INDEX PBase::convertIntToVpIndex(int index)
     return (index >= VPGROUP_NONE && index <= VPGROUP_4) ? static_cast<VPGROUP_INDEX>(index) : VPGROUP_UNKNOWN;
 }
 
-std::string PBase::numberToText(int value) { return std::to_string(value); }
-std::string PBase::numberToHexText(unsigned int value) { return formatted("%x", value); }
-std::string PBase::i64NumberToText(long long value) { return std::to_string(value); }
-std::string PBase::ui64NumberToText(unsigned long long value) { return std::to_string(value); }
+std::string PBase::numberToText(int value)
+{
+    return std::to_string(value);
+}
+std::string PBase::numberToHexText(unsigned int value)
+{
+    return formatted("%x", value);
+}
+std::string PBase::i64NumberToText(long long value)
+{
+    return std::to_string(value);
+}
+std::string PBase::ui64NumberToText(unsigned long long value)
+{
+    return std::to_string(value);
+}
 std::string PBase::ui64NumberToHexText(unsigned long long value)
 {
     char digits[16];
@@ -195,12 +207,30 @@ std::string PBase::ui64NumberToHexText(unsigned long long value)
     } while (value != 0);
     return std::string(std::make_reverse_iterator(digits + count), std::make_reverse_iterator(digits));
 }
-std::string PBase::byteToHexText(unsigned char value) { return hexBytesText(&value, 1, 1); }
-std::string PBase::floatToText(float value) { return formatted("%f", static_cast<double>(value)); }
-std::string PBase::yesOrNoToText(bool value) { return value ? "Yes" : "No"; }
-std::string PBase::upOrDownToText(bool value) { return value ? "Up" : "Down"; }
-std::string PBase::onOrOffToText(bool value) { return value ? "On" : "Off"; }
-std::string PBase::enableToText(bool value) { return value ? "Enabled" : "Disabled"; }
+std::string PBase::byteToHexText(unsigned char value)
+{
+    return hexBytesText(&value, 1, 1);
+}
+std::string PBase::floatToText(float value)
+{
+    return formatted("%f", static_cast<double>(value));
+}
+std::string PBase::yesOrNoToText(bool value)
+{
+    return value ? "Yes" : "No";
+}
+std::string PBase::upOrDownToText(bool value)
+{
+    return value ? "Up" : "Down";
+}
+std::string PBase::onOrOffToText(bool value)
+{
+    return value ? "On" : "Off";
+}
+std::string PBase::enableToText(bool value)
+{
+    return value ? "Enabled" : "Disabled";
+}
 
 std::string PBase::wwnameToText(const unsigned char* n)
 {
@@ -267,11 +297,11 @@ bool PBase::textToWwname(unsigned int& count, unsigned char* out, unsigned long 
             return false;
         }
         if (!isHexDigit(rest[pos])) {
-            ++pos;  // any separator is accepted
+            ++pos; // any separator is accepted
             continue;
         }
         if (!isHexDigit(rest[pos + 1])) {
-            return false;  // a lone digit before a separator
+            return false; // a lone digit before a separator
         }
         out[count++] = static_cast<unsigned char>(hexValue(rest[pos]) * 16 + hexValue(rest[pos + 1]));
         pos += 2;
@@ -452,7 +482,7 @@ std::string tableText(int value, int first, const char* const (&texts)[N], const
     return tableText(value, first, texts, N, other);
 }
 
-}  // namespace
+} // namespace
 
 std::string PBase::fcLinkRateToText(FC_LINK_RATE rate)
 {
@@ -493,8 +523,7 @@ std::string PBase::lunAccessTypeToText(LUN_ACCESS_TYPE type)
 
 std::string PBase::lunNameTypeToText(LUN_NAME_TYPE type)
 {
-    static const char* const texts[] = {"WWULN", "serial number", "T10 designator", "EUI designator",
-                                        "NAA designator"};
+    static const char* const texts[] = {"WWULN", "serial number", "T10 designator", "EUI designator", "NAA designator"};
     return tableText(type, 1, texts, "??? ");
 }
 

@@ -157,16 +157,13 @@ public:
     void copySavedArea(const void* objectImage);
 
     // ---- saving -------------------------------------------------------------
-    static bool base_serialize(bool write, FILE* file, char* buffer, unsigned int length,
-                               std::string& error);
+    static bool base_serialize(bool write, FILE* file, char* buffer, unsigned int length, std::string& error);
 
     // ---- memory helpers (size arguments beside the count are documentary) ---
     static void fastMemcpy(void* dst, unsigned long dstSize, const void* src, unsigned long count);
     static void fastMemsetZero(void* dst, unsigned long count);
-    static bool fastIsEqualMemcmp(const void* a, unsigned long aSize, const void* b,
-                                  unsigned long count);
-    static bool fastIsEqualStringCompare(const std::string& a, const std::string& b,
-                                         bool caseSensitive);
+    static bool fastIsEqualMemcmp(const void* a, unsigned long aSize, const void* b, unsigned long count);
+    static bool fastIsEqualStringCompare(const std::string& a, const std::string& b, bool caseSensitive);
 
     // ---- small predicates ---------------------------------------------------
     static bool isBitSet(unsigned int value, unsigned int bit);
@@ -201,10 +198,8 @@ public:
     }
     // Fills a fixed character field, cut to keep its terminating zero.
     static void textToCharField(char* field, unsigned long size, const std::string& text);
-    static std::string wwulnToText(const unsigned char* data, int length,
-                                   WWULN_CODE_SET_TYPE codeSet);
-    static bool textToWwname(unsigned int& count, unsigned char* out, unsigned long outSize,
-                             const std::string& text);
+    static std::string wwulnToText(const unsigned char* data, int length, WWULN_CODE_SET_TYPE codeSet);
+    static bool textToWwname(unsigned int& count, unsigned char* out, unsigned long outSize, const std::string& text);
 
     // ---- columns and quoting ------------------------------------------------
     static std::string addQuotesIfInternalSpace(const std::string& text);
@@ -247,7 +242,7 @@ static_assert(sizeof(PBase) == 24, "PBase image: vptr and three 32-bit words");
 // not standard-layout, but the compiler places them by the platform ABI and
 // the library reads exactly that image. Use it where the field is
 // accessible (inside a member function for non-public fields).
-#define ZEK_ASSERT_FIELD_OFFSET(Class, field, offset)                                   \
-    _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Winvalid-offsetof\"") \
-        static_assert(offsetof(Class, field) == (offset), #Class "::" #field " offset");  \
+#define ZEK_ASSERT_FIELD_OFFSET(Class, field, offset)                                                                  \
+    _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Winvalid-offsetof\"") static_assert(             \
+        offsetof(Class, field) == (offset), #Class "::" #field " offset");                                             \
     _Pragma("GCC diagnostic pop")

@@ -4,8 +4,8 @@
 
 #include <cstdio>
 #include <cstring>
-#include <unistd.h>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -90,7 +90,7 @@ TEST(PBaseSerialization, WriteThenReadRestoresTheSavedArea)
     EXPECT_EQ(0x01020304u, in.first);
     EXPECT_EQ(0x1122334455667788ULL, in.second);
     EXPECT_STREQ("abcd", in.third);
-    EXPECT_EQ("saved", in.displayText());  // the virtual table survived the read
+    EXPECT_EQ("saved", in.displayText()); // the virtual table survived the read
 }
 
 TEST(PBaseSerialization, ReadingFromAnEmptyFileFailsWithItsMessage)
@@ -436,7 +436,7 @@ TEST(PBaseSizes, LongLongToMByteTextShowsTheFractionOnlyAbove102)
 
 TEST(PBaseSizes, LongLongToMByteTextLargerUnits)
 {
-    EXPECT_EQ("1MB", PBase::longlongToMByteText(1048577));  // rounded to the kilobyte
+    EXPECT_EQ("1MB", PBase::longlongToMByteText(1048577)); // rounded to the kilobyte
     EXPECT_EQ("1.50GB", PBase::longlongToMByteText(1610612736));
     EXPECT_EQ("1TB", PBase::longlongToMByteText(1ULL << 40));
     EXPECT_EQ("2.99TB", PBase::longlongToMByteText((3ULL << 40) - (1ULL << 30) * 10));
@@ -467,8 +467,8 @@ TEST(PBaseMemoryDump, EmptyForNoBytesAndSixteenBytesALine)
         bytes[i] = static_cast<unsigned char>(i);
     }
     std::string expected = std::to_string(reinterpret_cast<uintptr_t>(bytes)) +
-                           " 00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F \n" +
-                           std::to_string(reinterpret_cast<uintptr_t>(bytes + 16)) + " 10 \n";
+        " 00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F \n" +
+        std::to_string(reinterpret_cast<uintptr_t>(bytes + 16)) + " 10 \n";
     EXPECT_EQ(expected, PBase::displayMemory(bytes, 17));
 }
 
@@ -578,9 +578,20 @@ TEST(PBaseTables, FcZoneStatus)
 TEST(PBaseTables, OsType)
 {
     const char* texts[] = {
-        "Unknown OS Type", "Microsoft Windows Server 2003", "Linux", "Linux", "HPUX", "AIX", "NetWare",
-        "Sun Solaris", "Apple Macintosh", "VMWARE", "Hewlett-Packard OpenVMS", "\"Other\" OS Type",
-        "Microsoft Windows Server 2008", "Microsoft Windows Server 2012",
+        "Unknown OS Type",
+        "Microsoft Windows Server 2003",
+        "Linux",
+        "Linux",
+        "HPUX",
+        "AIX",
+        "NetWare",
+        "Sun Solaris",
+        "Apple Macintosh",
+        "VMWARE",
+        "Hewlett-Packard OpenVMS",
+        "\"Other\" OS Type",
+        "Microsoft Windows Server 2008",
+        "Microsoft Windows Server 2012",
     };
     for (int i = 0; i <= 13; ++i) {
         EXPECT_EQ(texts[i], PBase::osTypeToText(as<PBase::OS_TYPE>(i)));
@@ -605,4 +616,4 @@ TEST(PBaseTables, TcpWindowSize)
               PBase::tcpWindowSizeToText(as<PBase::TCPWINDOWSIZE_TYPE>(10000)));
 }
 
-}  // namespace
+} // namespace

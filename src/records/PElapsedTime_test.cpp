@@ -34,4 +34,4 @@ TEST(PElapsedTime, InitClearsTheStartAndNothingIsSaved)
     EXPECT_EQ(0u, copy.getSerialOffset());
 }
 
-}  // namespace
+} // namespace

@@ -36,7 +36,7 @@ bool setBytes(unsigned char (&field)[N], const unsigned char* bytes, unsigned in
     return true;
 }
 
-}  // namespace
+} // namespace
 
 PIpAddress::PIpAddress()
 {

@@ -61,7 +61,7 @@ TEST(PIpAddress, ShortFormsCompareSixteenBytesLongFormsAllTwentyEight)
     PIpAddress b = shortAddress(1);
     EXPECT_TRUE(a == b);
     unsigned char tail[28] = {127, 0, 10, 1};
-    tail[20] = 9;  // beyond the sixteen bytes a short form compares
+    tail[20] = 9; // beyond the sixteen bytes a short form compares
     b.setData(tail, sizeof tail);
     EXPECT_TRUE(a == b);
     a.setType(PIpAddress::IPV_LONG_1);
@@ -136,4 +136,4 @@ TEST(PIpAddress, SavedAreaRunsFromTheTypeToTheEnd)
     fclose(file);
 }
 
-}  // namespace
+} // namespace

@@ -18,7 +18,7 @@ std::string formattedOr(const char* fallback, const char* format, Args... args)
     return n > 0 ? std::string(buffer) : std::string(fallback);
 }
 
-}  // namespace
+} // namespace
 
 PTime::PTime()
 {
@@ -156,10 +156,22 @@ std::string PTime::displayDate(BreakDown breakDown) const
     return formattedOr(kNoDate, "%02d/%02d/%02d", info.tm_mon + 1, info.tm_mday, info.tm_year + 1900);
 }
 
-std::string PTime::displayLocalTime() const { return displayClock(&PTime::getLocalTimeInfo); }
-std::string PTime::displayGmtTime() const { return displayClock(&PTime::getGmtTimeInfo); }
-std::string PTime::displayLocalDate() const { return displayDate(&PTime::getLocalTimeInfo); }
-std::string PTime::displayGmtDate() const { return displayDate(&PTime::getGmtTimeInfo); }
+std::string PTime::displayLocalTime() const
+{
+    return displayClock(&PTime::getLocalTimeInfo);
+}
+std::string PTime::displayGmtTime() const
+{
+    return displayClock(&PTime::getGmtTimeInfo);
+}
+std::string PTime::displayLocalDate() const
+{
+    return displayDate(&PTime::getLocalTimeInfo);
+}
+std::string PTime::displayGmtDate() const
+{
+    return displayDate(&PTime::getGmtTimeInfo);
+}
 
 std::string PTime::displayGmt() const
 {

@@ -96,7 +96,7 @@ TEST(PTime, DayOfWeekInterval)
 
 TEST(PTime, TimeOfDayIntervalNeedsBothBounds)
 {
-    PTime time = at(kTuesdayInNovember);  // 22:13
+    PTime time = at(kTuesdayInNovember); // 22:13
     EXPECT_TRUE(time.isInsideGmtTimeOfDayInterval(22, 0, 23, 0));
     EXPECT_TRUE(time.isInsideGmtTimeOfDayInterval(8, 0, 22, 13));
     EXPECT_TRUE(time.isInsideGmtTimeOfDayInterval(22, 13, 22, 13));
@@ -107,7 +107,7 @@ TEST(PTime, TimeOfDayIntervalNeedsBothBounds)
 TEST(PTime, LocalIntervalsUseTheLocalClock)
 {
     TimeZone fixed("EST5");
-    PTime time = at(kTuesdayInNovember);  // 17:13 local
+    PTime time = at(kTuesdayInNovember); // 17:13 local
     EXPECT_TRUE(time.isInsideLocalTimeOfDayInterval(17, 0, 18, 0));
     EXPECT_FALSE(time.isInsideGmtTimeOfDayInterval(17, 0, 18, 0));
     EXPECT_TRUE(time.isInsideLocalDayOfWeekInterval(2, 2));
@@ -179,4 +179,4 @@ TEST(PTime, NothingIsSavedAndCopiesKeepTheTime)
     EXPECT_EQ(0, copy.getPosixTime());
 }
 
-}  // namespace
+} // namespace

@@ -28,7 +28,7 @@ bool isKnownCodeSet(int codeSet)
 
 const char kSaveStringDigits[] = "0123456789ABCDEF";
 
-}  // namespace
+} // namespace
 
 // ---- PUniqueID --------------------------------------------------------------
 
@@ -169,8 +169,7 @@ int PUniqueID::usedLength() const
     return clampedLength(dataLength, DATA_SIZE);
 }
 
-void PUniqueID::initProtocolName(PBase::PROTOCOL_TYPE protocol, const unsigned char* name, int length,
-                                 int lengthCap)
+void PUniqueID::initProtocolName(PBase::PROTOCOL_TYPE protocol, const unsigned char* name, int length, int lengthCap)
 {
     PBase::fastMemsetZero(data, sizeof data);
     int nameLength = std::max(length, 0);
@@ -291,7 +290,7 @@ int cStringLength(const unsigned char* text)
 {
     return text == nullptr ? 0 : static_cast<int>(strlen(reinterpret_cast<const char*>(text)));
 }
-}  // namespace
+} // namespace
 
 PTargetIDBase::PTargetIDBase() : PProtocolNameID(ID_TYPE_TARGET) {}
 
@@ -310,8 +309,14 @@ void PTargetIDBase::initIscsiTargetID(const unsigned char* name)
     initProtocolName(PBase::PROTOCOL_ISCSI, name, cStringLength(name), kMaxProtocolNameLength);
 }
 
-bool PTargetIDBase::isFcTargetId() const { return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL; }
-bool PTargetIDBase::isIscsiTargetId() const { return protocol() == PBase::PROTOCOL_ISCSI; }
+bool PTargetIDBase::isFcTargetId() const
+{
+    return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL;
+}
+bool PTargetIDBase::isIscsiTargetId() const
+{
+    return protocol() == PBase::PROTOCOL_ISCSI;
+}
 
 void PTargetID::initFromLunIdData(const unsigned char* bytes, int length)
 {
@@ -335,8 +340,14 @@ void PInitiatorIDBase::initIscsiInitiatorID(const unsigned char* name)
     initProtocolName(PBase::PROTOCOL_ISCSI, name, cStringLength(name), kMaxProtocolNameLength);
 }
 
-bool PInitiatorIDBase::isFcInitiatorId() const { return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL; }
-bool PInitiatorIDBase::isIscsiInitiatorId() const { return protocol() == PBase::PROTOCOL_ISCSI; }
+bool PInitiatorIDBase::isFcInitiatorId() const
+{
+    return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL;
+}
+bool PInitiatorIDBase::isIscsiInitiatorId() const
+{
+    return protocol() == PBase::PROTOCOL_ISCSI;
+}
 
 KDeviceIDBase::KDeviceIDBase() : PProtocolNameID(ID_TYPE_DEVICE) {}
 
@@ -355,8 +366,14 @@ void KDeviceIDBase::initIscsiDeviceID(const unsigned char* name)
     initProtocolName(PBase::PROTOCOL_ISCSI, name, cStringLength(name), kMaxDeviceIscsiNameLength);
 }
 
-bool KDeviceIDBase::isFcDeviceId() const { return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL; }
-bool KDeviceIDBase::isIscsiDeviceId() const { return protocol() == PBase::PROTOCOL_ISCSI; }
+bool KDeviceIDBase::isFcDeviceId() const
+{
+    return protocol() == PBase::PROTOCOL_FIBRE_CHANNEL;
+}
+bool KDeviceIDBase::isIscsiDeviceId() const
+{
+    return protocol() == PBase::PROTOCOL_ISCSI;
+}
 
 void KDeviceID::getTargetID(PTargetID& out) const
 {
@@ -448,7 +465,7 @@ void PLunID::afterRestoreFromSaveString()
 std::string PLunID::displayText() const
 {
     return "LUN " + PBase::numberToText(lunNumber()) + "  " + PBase::vpGroupIndexToText(vpgIndex()) +
-           "  on Target: " + target.displayText();
+        "  on Target: " + target.displayText();
 }
 
 std::string PLunID::displayTextWithoutVpGroup() const
@@ -507,9 +524,9 @@ void PLunMaskID::afterRestoreFromSaveString()
 
 void PLunMaskID::rebuildTargetFromData()
 {
-    target.initFromLunIdData(data + PLunID::TARGET_DATA_OFFSET,
-                             clampedLength(dataLength - PLunID::TARGET_DATA_OFFSET,
-                                           DATA_SIZE - PLunID::TARGET_DATA_OFFSET));
+    target.initFromLunIdData(
+        data + PLunID::TARGET_DATA_OFFSET,
+        clampedLength(dataLength - PLunID::TARGET_DATA_OFFSET, DATA_SIZE - PLunID::TARGET_DATA_OFFSET));
 }
 
 PLunsForOneNameID::PLunsForOneNameID() : PUniqueID(ID_TYPE_LUNS_FOR_ONE_NAME) {}
@@ -526,8 +543,7 @@ bool PLunsForOneNameID::initLunsForOneNameID(PBase::LUN_NAME_TYPE type, const st
                     static_cast<int>(std::min<size_t>(name.size(), 0x7FFFFFFF)));
 }
 
-bool PLunsForOneNameID::initName(PBase::LUN_NAME_TYPE type, NAME_FORMAT format, const unsigned char* bytes,
-                                 int length)
+bool PLunsForOneNameID::initName(PBase::LUN_NAME_TYPE type, NAME_FORMAT format, const unsigned char* bytes, int length)
 {
     init();
     writeInt(0, type);
@@ -564,7 +580,7 @@ std::string PLunsForOneNameID::displayShortText() const
 std::string PLunsForOneNameID::displayText() const
 {
     return std::string(isBinary() ? "Binary " : "ASCII ") + PBase::lunNameTypeToText(lunNameType()) + " " +
-           displayShortText();
+        displayShortText();
 }
 
 // ---- identifiers of the adapter's own objects ------------------------------

@@ -65,12 +65,10 @@ protected:
 
     // Shared by the target, initiator and device identifiers: bytes 0-3
     // hold the protocol, the name follows from byte 4.
-    void initProtocolName(PBase::PROTOCOL_TYPE protocol, const unsigned char* name, int length,
-                          int lengthCap);
+    void initProtocolName(PBase::PROTOCOL_TYPE protocol, const unsigned char* name, int length, int lengthCap);
     void initFcNameFromString(const std::string& text);
     PBase::PROTOCOL_TYPE protocol() const;
-    bool copyProtocolName(PBase::PROTOCOL_TYPE wanted, unsigned char* out, unsigned int size,
-                          bool stopAtNameEnd) const;
+    bool copyProtocolName(PBase::PROTOCOL_TYPE wanted, unsigned char* out, unsigned int size, bool stopAtNameEnd) const;
     std::string protocolNameText() const;
 
     // Shared by the drive and WWULN LUN identifiers: code set in bytes 0-3,

@@ -75,7 +75,7 @@ TEST(PUniqueID, EqualityComparesOnlyTheUsedBytes)
     b.initFcTargetID(other, 8);
     EXPECT_TRUE(a != b);
     const PUniqueID& base = a;
-    EXPECT_TRUE(base != b);  // through the virtual slot
+    EXPECT_TRUE(base != b); // through the virtual slot
 }
 
 TEST(PUniqueID, AssignmentKeepsTheTagOfTheSource)
@@ -155,9 +155,9 @@ TEST(PUniqueID, SerializeWritesTagLengthAndBodyAndReadsThemBack)
     rewind(file);
     unsigned char head[9];
     ASSERT_EQ(9u, fread(head, 1, 9, file));
-    EXPECT_EQ(2, head[0]);   // tag
-    EXPECT_EQ(12, head[4]);  // length
-    EXPECT_EQ(1, head[8]);   // protocol, first byte of the body
+    EXPECT_EQ(2, head[0]);  // tag
+    EXPECT_EQ(12, head[4]); // length
+    EXPECT_EQ(1, head[8]);  // protocol, first byte of the body
     rewind(file);
     PTargetID in;
     ASSERT_TRUE(in.serialize(false, file, error));
@@ -563,4 +563,4 @@ TEST(KDrivePoolID, NameUpTo32Bytes)
     EXPECT_TRUE(id.isEmpty());
 }
 
-}  // namespace
+} // namespace

@@ -18,14 +18,15 @@ CmdCsvMerge::CmdCsvMerge()
 {
     declareCommand(*this, rows);
     helpTitle = "Merge CSV";
-    helpDescription = "Combines the statistics CSV files in a folder into one summary table with one row for each 10 second "
+    helpDescription =
+        "Combines the statistics CSV files in a folder into one summary table with one row for each 10 second "
         "window and, per target, columns summed over its LUNs.";
     helpSyntax = "\t[-csv_folder=<folder>]\n"
-        "\t[-file=<file name>]";
+                 "\t[-file=<file name>]";
     helpModifiers = "-csv_folder=<folder>\n"
-        "\tFolder holding the CSV files.\n"
-        "-file=<file name>\n"
-        "\tOutput file. Default is the console.";
+                    "\tFolder holding the CSV files.\n"
+                    "-file=<file name>\n"
+                    "\tOutput file. Default is the console.";
     helpExamples = ugCommandPrompt() + "-csv_folder=stats -file=summary.csv";
 }
 

@@ -45,9 +45,9 @@ CmdCsvScript::CmdCsvScript()
                     "\treplaced by that column of the row (csv_a is the first column); any\n"
                     "\tother value is copied as it stands. A row with an empty cell in a\n"
                     "\tcolumn that is used gives no command.";
-    helpExamples = ugCommandPrompt()
-        + "-csv_file=luns.csv -file=enable.cfg -cmd=\"enable cache\" -mode=read_write_back"
-          " -lun_number=csv_a -fc_target=csv_b -zek=0";
+    helpExamples = ugCommandPrompt() +
+        "-csv_file=luns.csv -file=enable.cfg -cmd=\"enable cache\" -mode=read_write_back"
+        " -lun_number=csv_a -fc_target=csv_b -zek=0";
     helpNotes = "-file must name the output file.";
 }
 

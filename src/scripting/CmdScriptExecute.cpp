@@ -37,8 +37,7 @@ std::string timeField(int value)
 }
 
 // A keyword counts when it was typed on the line, not merely remembered.
-TokenModifierString const* givenKeyword(TokenCmd const& cmd, ModifierId::MODIFIER_ID id, bool& given,
-                                        std::string& err)
+TokenModifierString const* givenKeyword(TokenCmd const& cmd, ModifierId::MODIFIER_ID id, bool& given, std::string& err)
 {
     TokenModifierString const* const keyword = cmd.findModifier(id, err);
     given = keyword && !keyword->isDefault;
@@ -76,14 +75,14 @@ CmdScriptExecute::CmdScriptExecute()
     helpTitle = "Execute Script";
     helpDescription = "Executes a list of Host CLI commands read in from a file ";
     helpSyntax = "\t-file=<file name>\n"
-        "\t[-continue_on_error]";
+                 "\t[-continue_on_error]";
     helpModifiers = "-file=<file name>\n"
-        "\tThe script: one command per line. Lines starting with one of\n"
-        "\t# ! ; / : are comments.\n"
-        "-continue_on_error\n"
-        "\tGo on with the next line when a line of the script fails.";
-    helpExamples = ugCommandPrompt() + "-file=adapter0.cfg"
-        + ugCommandPrompt() + "-file=adapter0.cfg -continue_on_error -textfile";
+                    "\tThe script: one command per line. Lines starting with one of\n"
+                    "\t# ! ; / : are comments.\n"
+                    "-continue_on_error\n"
+                    "\tGo on with the next line when a line of the script fails.";
+    helpExamples = ugCommandPrompt() + "-file=adapter0.cfg" + ugCommandPrompt() +
+        "-file=adapter0.cfg -continue_on_error -textfile";
     helpNotes = "-quiet, -show_only_error, -echo and -textfile are added to every line of the script.";
 }
 
@@ -101,13 +100,12 @@ std::string CmdScriptExecute::textFileNameFor(std::string const& scriptPath, std
     return name + ".log";
 }
 
-bool CmdScriptExecute::readSwitches(std::string const& scriptPath, ScriptRunSwitches& switches,
-                                    std::string& err) const
+bool CmdScriptExecute::readSwitches(std::string const& scriptPath, ScriptRunSwitches& switches, std::string& err) const
 {
-    if (!givenKeyword(*this, ModifierId::MODIFIER_CONTINUE_ON_ERROR, switches.continueOnError, err)
-        || !givenKeyword(*this, ModifierId::MODIFIER_QUIET, switches.quiet, err)
-        || !givenKeyword(*this, ModifierId::MODIFIER_SHOW_ONLY_ERROR, switches.showOnlyError, err)
-        || !givenKeyword(*this, ModifierId::MODIFIER_ECHO, switches.echo, err))
+    if (!givenKeyword(*this, ModifierId::MODIFIER_CONTINUE_ON_ERROR, switches.continueOnError, err) ||
+        !givenKeyword(*this, ModifierId::MODIFIER_QUIET, switches.quiet, err) ||
+        !givenKeyword(*this, ModifierId::MODIFIER_SHOW_ONLY_ERROR, switches.showOnlyError, err) ||
+        !givenKeyword(*this, ModifierId::MODIFIER_ECHO, switches.echo, err))
         return false;
     TokenModifierString const* const text = givenKeyword(*this, ModifierId::MODIFIER_TEXTFILE, switches.textFile, err);
     if (!text)

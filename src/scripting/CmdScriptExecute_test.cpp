@@ -66,11 +66,9 @@ TEST(ScriptTextFileName, SmallTimeFieldsGetOneLeadingZero)
 
 TEST(ScriptTextFileName, ZeroTimeFieldsAreThreeZeros)
 {
-    EXPECT_EQ("s_20261231_000000000.log",
-              CmdScriptExecute::textFileNameFor("s.txt", localTime(2026, 12, 31, 0, 0, 0)));
+    EXPECT_EQ("s_20261231_000000000.log", CmdScriptExecute::textFileNameFor("s.txt", localTime(2026, 12, 31, 0, 0, 0)));
     EXPECT_EQ("s_20261231_0000709.log", CmdScriptExecute::textFileNameFor("s.txt", localTime(2026, 12, 31, 0, 7, 9)));
-    EXPECT_EQ("s_20261231_1200059.log",
-              CmdScriptExecute::textFileNameFor("s.txt", localTime(2026, 12, 31, 12, 0, 59)));
+    EXPECT_EQ("s_20261231_1200059.log", CmdScriptExecute::textFileNameFor("s.txt", localTime(2026, 12, 31, 12, 0, 59)));
 }
 
 // ---- which lines run --------------------------------------------------------
@@ -242,7 +240,8 @@ TEST_F(ScriptRun, FailingLineStopsTheRun)
     EXPECT_EQ(ZEKCLI_CMD_FAIL, run("execute script -file=s.txt"));
     EXPECT_EQ(1, showLun->runs);
     EXPECT_EQ("why", err);
-    EXPECT_EQ(kWipe + "1: " + kWipe + "*** ZEKCLI_CMD_FAIL -- why\n" + kBanner + "Script \"s.txt\" failed to complete\n" +
+    EXPECT_EQ(kWipe + "1: " + kWipe + "*** ZEKCLI_CMD_FAIL -- why\n" + kBanner +
+                  "Script \"s.txt\" failed to complete\n" +
                   summaryOf("1 commands attempted, 0 successful, 1 failed",
                             "        \"show lun\"\n            ZEKCLI_CMD_FAIL at line 1\n\n") +
                   kWipe + "*** ZEKCLI_CMD_FAIL -- why\n",
@@ -273,14 +272,15 @@ TEST_F(ScriptRun, ParseErrorIsCountedUnderItsOwnAddress)
     EXPECT_EQ("Parse Error", stats().adapters[1].commands[0].commandName);
     EXPECT_EQ(ZEKCLI_PARSE_FAIL, stats().adapters[1].commands[0].returnValues[0].returnValue);
     EXPECT_EQ((std::vector<unsigned int>{2}), stats().adapters[1].commands[0].returnValues[0].iterations);
-    EXPECT_NE(std::string::npos, out.find("Script \"s.txt\" failed to complete\n"
-                                          "\r             \n"
-                                          "    IP = \n"
-                                          "    1 commands attempted, 1 successful\n\n"
-                                          "    IP = ******\n"
-                                          "    1 commands attempted, 0 successful, 1 failed\n"
-                                          "        \"Parse Error\"\n"
-                                          "            ZEKCLI_PARSE_FAIL at line 2\n\n\n\n"));
+    EXPECT_NE(std::string::npos,
+              out.find("Script \"s.txt\" failed to complete\n"
+                       "\r             \n"
+                       "    IP = \n"
+                       "    1 commands attempted, 1 successful\n\n"
+                       "    IP = ******\n"
+                       "    1 commands attempted, 0 successful, 1 failed\n"
+                       "        \"Parse Error\"\n"
+                       "            ZEKCLI_PARSE_FAIL at line 2\n\n\n\n"));
 }
 
 TEST_F(ScriptRun, ParseErrorWithContinueOnErrorGoesOn)
@@ -333,8 +333,8 @@ TEST_F(ScriptRun, EchoShowsEachLineBeforeItRuns)
 {
     writeScript("s.txt", "show lun\n");
     EXPECT_EQ(ZEKCLI_OK, run("execute script -file=s.txt -echo"));
-    EXPECT_EQ("execute script -file=s.txt -echo\n" + kWipe + "1: show lun -echo\nLUN list\n" + kBanner + "Script \"s.txt\" completed OK\n" +
-                  summaryOf("1 commands attempted, 1 successful"),
+    EXPECT_EQ("execute script -file=s.txt -echo\n" + kWipe + "1: show lun -echo\nLUN list\n" + kBanner +
+                  "Script \"s.txt\" completed OK\n" + summaryOf("1 commands attempted, 1 successful"),
               out);
 }
 
@@ -364,10 +364,9 @@ TEST_F(ScriptRun, TextFileWithoutAValueIsNamedAfterTheScript)
         names[i] = CmdScriptExecute::textFileNameFor("my.cfg/run", local);
     }
     std::string const line = parser.commandLine;
-    EXPECT_TRUE(line == "show lun -text=\"" + names[0] + "\"" || line == "show lun -text=\"" + names[1] + "\"")
-        << line;
-    std::string const name = line.substr(std::string("show lun -text=\"").size(),
-                                         line.size() - std::string("show lun -text=\"").size() - 1);
+    EXPECT_TRUE(line == "show lun -text=\"" + names[0] + "\"" || line == "show lun -text=\"" + names[1] + "\"") << line;
+    std::string const name =
+        line.substr(std::string("show lun -text=\"").size(), line.size() - std::string("show lun -text=\"").size() - 1);
     EXPECT_EQ(0u, name.find("my_"));
     EXPECT_EQ("LUN list\n", readWholeFile(dir.file(name)).substr(0, 9));
 }

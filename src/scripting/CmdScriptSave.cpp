@@ -20,16 +20,18 @@ CmdScriptSave::CmdScriptSave()
     declareCommand(*this, rows);
     helpTitle = "Save Script";
     helpDescription = "Saves an editable text file containing the current adapter configuration as a list of Host CLI "
-        "commands.";
+                      "commands.";
     helpSyntax = "\t[-file=<file name>]\n"
-        "\t[-useappend=<append set>]\n" + adapterSyntax();
+                 "\t[-useappend=<append set>]\n" +
+        adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe script file. Default is the console.\n"
-        "-useappend=<append set>\n"
-        "\tName of an append set (see \"set append\"): the script starts by\n"
-        "\tdefining it, and adapter commands of the script use it.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -file=adapter0.cfg"
-        + ugCommandPrompt() + "-zek=0 -file=adapter0.cfg -useappend=site1";
+                    "\tThe script file. Default is the console.\n"
+                    "-useappend=<append set>\n"
+                    "\tName of an append set (see \"set append\"): the script starts by\n"
+                    "\tdefining it, and adapter commands of the script use it.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -file=adapter0.cfg" + ugCommandPrompt() +
+        "-zek=0 -file=adapter0.cfg -useappend=site1";
     helpNotes = "The script does not hold cluster membership, cache size limits or passwords.";
 }
 

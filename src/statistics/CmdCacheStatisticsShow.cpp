@@ -22,18 +22,19 @@ CmdCacheStatisticsShow::CmdCacheStatisticsShow()
     helpTitle = "Show Cache Statistics";
     helpDescription = "Displays cache statistics";
     helpSyntax = "\t[-interval=<seconds>]\n"
-        "\t[-csv_folder=<folder>]\n"
-        "\t[-delta]\n" + adapterSyntax();
+                 "\t[-csv_folder=<folder>]\n"
+                 "\t[-delta]\n" +
+        adapterSyntax();
     helpModifiers = "-interval=<seconds>\n"
-        "\tRepeat every so many seconds, 0 to 100000, until interrupted\n"
-        "\twith Ctrl-C. 0 or not given shows the figures once.\n"
-        "-csv_folder=<folder>\n"
-        "\tWith -interval, also append the figures to CSV files in a new\n"
-        "\tfolder of this run under this folder.\n"
-        "-delta\n"
-        "\tShow the change of each figure since the previous interval.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -interval=10 -delta -csv_folder=stats";
+                    "\tRepeat every so many seconds, 0 to 100000, until interrupted\n"
+                    "\twith Ctrl-C. 0 or not given shows the figures once.\n"
+                    "-csv_folder=<folder>\n"
+                    "\tWith -interval, also append the figures to CSV files in a new\n"
+                    "\tfolder of this run under this folder.\n"
+                    "-delta\n"
+                    "\tShow the change of each figure since the previous interval.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -interval=10 -delta -csv_folder=stats";
 }
 
 int CmdCacheStatisticsShow::execCommand(std::string& err)

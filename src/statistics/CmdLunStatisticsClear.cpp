@@ -21,8 +21,8 @@ CmdLunStatisticsClear::CmdLunStatisticsClear()
     helpDescription = "Resets the I/O statistics of the selected LUNs, or of all LUNs, to zero.";
     helpSyntax = lunSelectorSyntax() + "\n" + adapterSyntax();
     helpModifiers = lunSelectorHelp() + "\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpExamples =
+        ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
 }
 
 int CmdLunStatisticsClear::execCommand(std::string& err)

@@ -20,18 +20,23 @@ CmdLunStatisticsShow::CmdLunStatisticsShow()
 {
     declareCommand(*this, rows);
     helpTitle = "Show LUN_Statistics";
-    helpDescription = "Displays statistics in a tabular format for either a single LUN or for all LUNs known to the Fibre "
+    helpDescription =
+        "Displays statistics in a tabular format for either a single LUN or for all LUNs known to the Fibre "
         "Channel Adapter.";
-    helpSyntax = "\t[-interval=<seconds>]\n" + lunSelectorSyntax() + "\n"
-        "\t[-csv_folder=<folder>]\n" + adapterSyntax();
+    helpSyntax = "\t[-interval=<seconds>]\n" + lunSelectorSyntax() +
+        "\n"
+        "\t[-csv_folder=<folder>]\n" +
+        adapterSyntax();
     helpModifiers = "-interval=<seconds>\n"
-        "\tRefresh the table every so many seconds, 0 to 100000, until\n"
-        "\tinterrupted with Ctrl-C. 0 or not given shows it once.\n" + lunSelectorHelp() + "\n"
+                    "\tRefresh the table every so many seconds, 0 to 100000, until\n"
+                    "\tinterrupted with Ctrl-C. 0 or not given shows it once.\n" +
+        lunSelectorHelp() +
+        "\n"
         "-csv_folder=<folder>\n"
         "\tAlso append the figures of each LUN to a CSV file in this folder,\n"
-        "\twhich must exist.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -interval=10 -csv_folder=stats";
+        "\twhich must exist.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -interval=10 -csv_folder=stats";
 }
 
 int CmdLunStatisticsShow::execCommand(std::string& err)

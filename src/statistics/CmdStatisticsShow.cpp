@@ -21,10 +21,10 @@ CmdStatisticsShow::CmdStatisticsShow()
     helpDescription = "Displays cache statistics";
     helpSyntax = "\t[-interval=<seconds>]\n" + adapterSyntax();
     helpModifiers = "-interval=<seconds>\n"
-        "\tRepeat every so many seconds, 0 to 100000, until interrupted\n"
-        "\twith Ctrl-C.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -interval=5";
+                    "\tRepeat every so many seconds, 0 to 100000, until interrupted\n"
+                    "\twith Ctrl-C.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -interval=5";
     helpResultFile = recordResultHelp("KCacheStatistics", 96);
 }
 

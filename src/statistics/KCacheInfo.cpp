@@ -34,7 +34,7 @@ long long wrappingDivide(long long a, long long b)
     return a / b;
 }
 
-}  // namespace
+} // namespace
 
 KCacheInfo KCacheInfo::withValue(long long newValue) const
 {

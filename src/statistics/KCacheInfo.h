@@ -13,7 +13,7 @@
 
 class KCacheInfo : public PBase {
 public:
-    static constexpr unsigned int NAME_SIZE = 33;  // 32 characters and the NUL
+    static constexpr unsigned int NAME_SIZE = 33; // 32 characters and the NUL
     // What the adapter's code field holds in a blank record.
     static constexpr int32_t BLANK_KIND = 9;
 
@@ -68,7 +68,7 @@ public:
     KCacheInfo& operator/=(const KCacheInfo& other);
 
     char name[NAME_SIZE];
-    int32_t kind;  // the adapter's code; copied, never read here
+    int32_t kind; // the adapter's code; copied, never read here
     int64_t value;
 
 private:

@@ -13,10 +13,14 @@ bool isBasicOperation(OPERATION_TYPE op)
 KCacheInfo basicOperation(const KCacheInfo& a, OPERATION_TYPE op, const KCacheInfo& b)
 {
     switch (op) {
-    case KCacheInfoList::OP_ADD: return a + b;
-    case KCacheInfoList::OP_SUBTRACT: return a - b;
-    case KCacheInfoList::OP_MULTIPLY: return a * b;
-    default: return a / b;
+    case KCacheInfoList::OP_ADD:
+        return a + b;
+    case KCacheInfoList::OP_SUBTRACT:
+        return a - b;
+    case KCacheInfoList::OP_MULTIPLY:
+        return a * b;
+    default:
+        return a / b;
     }
 }
 
@@ -37,7 +41,7 @@ KCacheInfo constantOperand(long long value)
     return operand;
 }
 
-}  // namespace
+} // namespace
 
 bool KCacheInfoList::findItem(const char* name, unsigned long length, KCacheInfo& out) const
 {
@@ -78,8 +82,8 @@ bool KCacheInfoList::lookUp(const char* name, unsigned long length, int position
     return false;
 }
 
-bool KCacheInfoList::cacheEquation(const KCacheInfo& first, OPERATION_TYPE op, long long second,
-                                   KCacheInfo& result, std::string&) const
+bool KCacheInfoList::cacheEquation(const KCacheInfo& first, OPERATION_TYPE op, long long second, KCacheInfo& result,
+                                   std::string&) const
 {
     applyOperation(first, op, constantOperand(second), result);
     return true;

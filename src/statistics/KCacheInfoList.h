@@ -18,7 +18,7 @@ public:
         OP_SUBTRACT = 1,
         OP_MULTIPLY = 2,
         OP_DIVIDE = 3,
-        OP_PERCENT = 4,  // (a * 100) / b
+        OP_PERCENT = 4, // (a * 100) / b
     };
 
     KCacheInfoList() { init(); }
@@ -57,24 +57,22 @@ public:
                        std::string& error) const;
     bool cacheEquation(const KCacheInfo& first, OPERATION_TYPE op, const KCacheInfo& second, KCacheInfo& result,
                        std::string& error) const;
-    bool cacheEquation(const KCacheInfo& first, OPERATION_TYPE op, const char* secondName,
-                       unsigned long secondLength, KCacheInfo& result, std::string& error) const;
-    bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op,
-                       const KCacheInfo& second, KCacheInfo& result, std::string& error) const;
+    bool cacheEquation(const KCacheInfo& first, OPERATION_TYPE op, const char* secondName, unsigned long secondLength,
+                       KCacheInfo& result, std::string& error) const;
+    bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op, const KCacheInfo& second,
+                       KCacheInfo& result, std::string& error) const;
     bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op, long long second,
                        KCacheInfo& result, std::string& error) const;
-    bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op,
-                       const char* secondName, unsigned long secondLength, KCacheInfo& result,
-                       std::string& error) const;
+    bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op, const char* secondName,
+                       unsigned long secondLength, KCacheInfo& result, std::string& error) const;
     // result = first op1 second op2 third, with multiplication and division
     // binding first. Left to right, the second step applies `second` again
     // and `third` is only looked up; callers rely on that as it is.
-    bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op1,
-                       const char* secondName, unsigned long secondLength, OPERATION_TYPE op2,
-                       const char* thirdName, unsigned long thirdLength, KCacheInfo& result,
-                       std::string& error) const;
+    bool cacheEquation(const char* firstName, unsigned long firstLength, OPERATION_TYPE op1, const char* secondName,
+                       unsigned long secondLength, OPERATION_TYPE op2, const char* thirdName, unsigned long thirdLength,
+                       KCacheInfo& result, std::string& error) const;
 
-    uint32_t count;  // leading entries filled by the adapter
+    uint32_t count; // leading entries filled by the adapter
     KCacheInfo items[MAX_ITEMS];
 
 private:

@@ -32,7 +32,7 @@ KCacheInfo marked()
     return c;
 }
 
-}  // namespace
+} // namespace
 
 TEST(KCacheInfoList, BlankTable)
 {
@@ -135,17 +135,22 @@ TEST(KCacheInfoList, EveryOperationOnTwoNames)
     auto list = table({{"Cache Pool Used MB", 300}, {"Cache Pool Max MB", 1200}});
     KCacheInfo result;
     std::string error;
-    ASSERT_TRUE(list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_ADD, NAME("Cache Pool Max MB"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_ADD, NAME("Cache Pool Max MB"), result, error));
     EXPECT_EQ(result.value, 1500);
     EXPECT_EQ(result.displayTitle(), "Cache Pool Used MB");
-    ASSERT_TRUE(list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_SUBTRACT, NAME("Cache Pool Max MB"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_SUBTRACT, NAME("Cache Pool Max MB"), result, error));
     EXPECT_EQ(result.value, -900);
-    ASSERT_TRUE(list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_MULTIPLY, NAME("Cache Pool Max MB"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_MULTIPLY, NAME("Cache Pool Max MB"), result, error));
     EXPECT_EQ(result.value, 360000);
-    ASSERT_TRUE(list->cacheEquation(NAME("Cache Pool Max MB"), List::OP_DIVIDE, NAME("Cache Pool Used MB"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("Cache Pool Max MB"), List::OP_DIVIDE, NAME("Cache Pool Used MB"), result, error));
     EXPECT_EQ(result.value, 4);
     EXPECT_EQ(result.displayTitle(), "Cache Pool Max MB");
-    ASSERT_TRUE(list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_PERCENT, NAME("Cache Pool Max MB"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("Cache Pool Used MB"), List::OP_PERCENT, NAME("Cache Pool Max MB"), result, error));
     EXPECT_EQ(result.value, 25);
     EXPECT_EQ(error, "");
 }
@@ -155,7 +160,8 @@ TEST(KCacheInfoList, PercentAndDivideByZeroGiveZeroAndSucceed)
     auto list = table({{"SSD ReadBypassSize", 40}, {"ReadIos Total", 0}});
     KCacheInfo result = marked();
     std::string error;
-    EXPECT_TRUE(list->cacheEquation(NAME("SSD ReadBypassSize"), List::OP_PERCENT, NAME("ReadIos Total"), result, error));
+    EXPECT_TRUE(
+        list->cacheEquation(NAME("SSD ReadBypassSize"), List::OP_PERCENT, NAME("ReadIos Total"), result, error));
     EXPECT_EQ(result.value, 0);
     EXPECT_EQ(result.displayTitle(), "SSD ReadBypassSize");
     result = marked();
@@ -241,7 +247,8 @@ TEST(KCacheInfoList, ThreeTermsWithProductFirst)
     auto list = table({{"WW", 100}, {"RO", 10}, {"WO", 4}});
     KCacheInfo result;
     std::string error;
-    ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_SUBTRACT, NAME("RO"), List::OP_MULTIPLY, NAME("WO"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("WW"), List::OP_SUBTRACT, NAME("RO"), List::OP_MULTIPLY, NAME("WO"), result, error));
     EXPECT_EQ(result.value, 60);
     EXPECT_EQ(result.displayTitle(), "WW");
     ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_ADD, NAME("RO"), List::OP_DIVIDE, NAME("WO"), result, error));
@@ -253,7 +260,8 @@ TEST(KCacheInfoList, ThreeTermsWithOtherSecondOperationUseTheIncomingResult)
     auto list = table({{"WW", 100}, {"RO", 10}, {"WO", 4}});
     KCacheInfo result = marked();
     std::string error;
-    ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_SUBTRACT, NAME("RO"), List::OP_PERCENT, NAME("WO"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("WW"), List::OP_SUBTRACT, NAME("RO"), List::OP_PERCENT, NAME("WO"), result, error));
     EXPECT_EQ(result.value, 100 - -99);
 }
 
@@ -266,10 +274,12 @@ TEST(KCacheInfoList, ThreeTermsLeftToRightApplyTheSecondItemTwice)
     ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_ADD, NAME("RO"), List::OP_ADD, NAME("WO"), result, error));
     EXPECT_EQ(result.value, 120);
     // (WW * RO) - RO
-    ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_MULTIPLY, NAME("RO"), List::OP_SUBTRACT, NAME("WO"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("WW"), List::OP_MULTIPLY, NAME("RO"), List::OP_SUBTRACT, NAME("WO"), result, error));
     EXPECT_EQ(result.value, 990);
     // (WW / RO) / RO
-    ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_DIVIDE, NAME("RO"), List::OP_DIVIDE, NAME("WO"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("WW"), List::OP_DIVIDE, NAME("RO"), List::OP_DIVIDE, NAME("WO"), result, error));
     EXPECT_EQ(result.value, 1);
 }
 
@@ -281,7 +291,8 @@ TEST(KCacheInfoList, ThreeTermsLeftToRightSkipOperationsOutsideTheBasicFour)
     ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_PERCENT, NAME("RO"), List::OP_ADD, NAME("WO"), result, error));
     EXPECT_EQ(result.value, -99 + 10);
     result = marked();
-    ASSERT_TRUE(list->cacheEquation(NAME("WW"), List::OP_MULTIPLY, NAME("RO"), List::OP_PERCENT, NAME("WO"), result, error));
+    ASSERT_TRUE(
+        list->cacheEquation(NAME("WW"), List::OP_MULTIPLY, NAME("RO"), List::OP_PERCENT, NAME("WO"), result, error));
     EXPECT_EQ(result.value, 1000);
 }
 

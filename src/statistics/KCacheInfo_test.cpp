@@ -20,7 +20,7 @@ std::string withUnit(long long value)
     return counter("x", value).displayTextWithUnit();
 }
 
-}  // namespace
+} // namespace
 
 TEST(KCacheInfo, BlankRecord)
 {
@@ -83,7 +83,7 @@ TEST(KCacheInfo, OperatorsKeepTheLeftName)
     EXPECT_EQ((a * -2LL).value, -20);
     EXPECT_EQ((a / 4LL).value, 2);
     EXPECT_EQ((b / a).displayTitle(), "Other");
-    EXPECT_EQ(a.value, 10);  // operands stay as they are
+    EXPECT_EQ(a.value, 10); // operands stay as they are
 }
 
 TEST(KCacheInfo, DivisionTruncatesTowardZero)
@@ -129,8 +129,8 @@ TEST(KCacheInfo, DivideAssignByZeroKeepsTheValueButDivideGivesZero)
 TEST(KCacheInfo, UnitTextOfGigabytes)
 {
     EXPECT_EQ(withUnit(2147483648LL), "2GB");
-    EXPECT_EQ(withUnit(2255486976LL), "2.10GB");  // 2 GiB and 103 MiB
-    EXPECT_EQ(withUnit(2254438400LL), "2GB");     // 2 GiB and 102 MiB
+    EXPECT_EQ(withUnit(2255486976LL), "2.10GB"); // 2 GiB and 103 MiB
+    EXPECT_EQ(withUnit(2254438400LL), "2GB");    // 2 GiB and 102 MiB
 }
 
 TEST(KCacheInfo, UnitTextOfSmallAndMegabyteValues)

@@ -102,11 +102,13 @@ int Backend::change(const std::function<int(San&, long long now)>& change, bool 
     int rc = code::Ok;
     std::string error;
     Snapshot next;
-    bool stored = store_.update([&](San& san) {
-        rules::settle(san, t);
-        rc = change(san, t);
-        return keepAlways || rc == code::Ok || rc == code::OkRestartRequired;
-    }, error, changeBase(t), &next);
+    bool stored = store_.update(
+        [&](San& san) {
+            rules::settle(san, t);
+            rc = change(san, t);
+            return keepAlways || rc == code::Ok || rc == code::OkRestartRequired;
+        },
+        error, changeBase(t), &next);
     if (!stored) {
         reportFailure(error);
         return code::StateFileError;

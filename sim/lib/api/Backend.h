@@ -69,7 +69,7 @@ private:
     long long writtenAt_ = 0;
     HMsgHandler* handler_ = nullptr;
     std::uint64_t changeCount_ = 0;
-    std::string lastFailure_;   // said once, not again on every later call
+    std::string lastFailure_; // said once, not again on every later call
 };
 
 } // namespace sim

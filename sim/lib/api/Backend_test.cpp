@@ -48,10 +48,13 @@ protected:
     void startRestart()
     {
         std::string error;
-        ASSERT_TRUE(StateStore(path).update([](San& san) {
-            san.adapters[0].restartUntil = kStart + 5;
-            return true;
-        }, error)) << error;
+        ASSERT_TRUE(StateStore(path).update(
+            [](San& san) {
+                san.adapters[0].restartUntil = kStart + 5;
+                return true;
+            },
+            error))
+            << error;
     }
 
     TempDirectory dir{"hbasim-backend"};
@@ -85,11 +88,18 @@ TEST_F(BackendTest, ChangesOfOtherProcessesAreSeenAndKept)
     ASSERT_NE(backend.view(), nullptr);
     ASSERT_EQ(backend.change([](San& san, long long) { return rename(san, "mine"); }), code::Ok);
     std::string error;
-    ASSERT_TRUE(StateStore(path).update([](San& san) { san.nextLocalLun = 99; return true; }, error)) << error;
+    ASSERT_TRUE(StateStore(path).update(
+        [](San& san) {
+            san.nextLocalLun = 99;
+            return true;
+        },
+        error))
+        << error;
     ASSERT_EQ(backend.change([](San& san, long long) {
         san.adapters[0].symbolicName = "renamed";
         return code::Ok;
-    }), code::Ok);
+    }),
+              code::Ok);
     const San* view = backend.view();
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(view->name, "mine");
@@ -106,7 +116,8 @@ TEST_F(BackendTest, RefusedChangeLeavesStateAndViewAsTheyWere)
     EXPECT_EQ(backend.change([](San& san, long long) {
         rename(san, "refused");
         return code::Failure;
-    }), code::Failure);
+    }),
+              code::Failure);
     EXPECT_EQ(fileText(), before);
     const San* view = backend.view();
     ASSERT_NE(view, nullptr);
@@ -126,7 +137,8 @@ TEST_F(BackendTest, ChangeLaterThanTheViewSeesTheClockMoveOn)
     ASSERT_EQ(backend.change([&](San& san, long long) {
         seen = san.adapters[0].restartUntil;
         return rename(san, "later");
-    }), code::Ok);
+    }),
+              code::Ok);
     EXPECT_EQ(seen, 0);
     EXPECT_EQ(scenarioToText(*backend.view()), freshView(kStart + 100));
 }
@@ -144,7 +156,8 @@ TEST_F(BackendTest, ChangeWithTheClockSetBackStartsFromTheFile)
     ASSERT_EQ(backend.change([&](San& san, long long) {
         seen = san.adapters[0].restartUntil;
         return rename(san, "earlier");
-    }), code::Ok);
+    }),
+              code::Ok);
     EXPECT_EQ(seen, kStart + 5);
     EXPECT_EQ(scenarioToText(*backend.view()), freshView(kStart));
 }
@@ -156,7 +169,8 @@ TEST_F(BackendTest, ChangesInARowEachSeeTheLastOne)
         ASSERT_EQ(backend.change([&](San& san, long long) {
             san.nextLocalLun += 1;
             return code::Ok;
-        }), code::Ok);
+        }),
+                  code::Ok);
     }
     const San* view = backend.view();
     ASSERT_NE(view, nullptr);

@@ -280,8 +280,11 @@ void fillSfpInfo(const Port& p, unsigned index, KSfpInfo& out)
     putTemperature(d, 260, 75);
     putTemperature(d, 262, 0);
     putTemperature(d, 352, s.temperatureC);
-    const double scale = 100.0 * 0.000001;  // the display's one scale for all four figures
-    struct Figure { int value, highAlarm; double v, hi, lo; } figures[] = {
+    const double scale = 100.0 * 0.000001; // the display's one scale for all four figures
+    struct Figure {
+        int value, highAlarm;
+        double v, hi, lo;
+    } figures[] = {
         {354, 264, s.voltage, 3.6, 3.0},
         {356, 272, s.txBiasMa, 6.0, 2.0},
         {358, 280, s.txPowerMw, 1.0, 0.2},
@@ -473,12 +476,13 @@ void fillHostPcieInfo(const San& san, const Adapter& a, long long now, KHostPcie
     out.init();
     std::array<u32, 26> v = hostPcieFigures(san, a, now);
     uint32_t* fields[26] = {
-        &out.readDiffTime, &out.writeDiffTime, &out.readIoCount, &out.readBytesCount, &out.writeIoCount,
-        &out.writeBytesCount, &out.avgReadIosPerSec, &out.minReadIoSize, &out.maxReadIoSize, &out.avgReadIoSize,
-        &out.avgReadBandwidth, &out.readIoDelay, &out.minReadLatency, &out.maxReadLatency, &out.avgReadLatency,
-        &out.readIoOutstanding, &out.avgWriteIosPerSec, &out.minWriteIoSize, &out.maxWriteIoSize,
-        &out.avgWriteIoSize, &out.avgWriteBandwidth, &out.writeIoDelay, &out.minWriteLatency,
-        &out.maxWriteLatency, &out.avgWriteLatency, &out.writeIoOutstanding,
+        &out.readDiffTime,      &out.writeDiffTime,      &out.readIoCount,      &out.readBytesCount,
+        &out.writeIoCount,      &out.writeBytesCount,    &out.avgReadIosPerSec, &out.minReadIoSize,
+        &out.maxReadIoSize,     &out.avgReadIoSize,      &out.avgReadBandwidth, &out.readIoDelay,
+        &out.minReadLatency,    &out.maxReadLatency,     &out.avgReadLatency,   &out.readIoOutstanding,
+        &out.avgWriteIosPerSec, &out.minWriteIoSize,     &out.maxWriteIoSize,   &out.avgWriteIoSize,
+        &out.avgWriteBandwidth, &out.writeIoDelay,       &out.minWriteLatency,  &out.maxWriteLatency,
+        &out.avgWriteLatency,   &out.writeIoOutstanding,
     };
     for (size_t i = 0; i < 26; ++i)
         *fields[i] = v[i];

@@ -68,7 +68,7 @@ private:
 
     const San& san_;
     const Adapter& viewer_;
-    std::map<std::string, const Target*> reached_;     // null: not reached
+    std::map<std::string, const Target*> reached_; // null: not reached
     std::map<std::pair<const Target*, int>, std::string> ways_;
 };
 

@@ -36,12 +36,12 @@ private:
     const San& san_;
     std::vector<KAdapterGroupExtendedLunInfo>& groups_;
     PathIndex paths_;
-    std::vector<std::vector<PLunID>> pathIds_;      // by target index, made when first needed
-    std::vector<size_t> recordOfLun_;               // by LUN index
+    std::vector<std::vector<PLunID>> pathIds_; // by target index, made when first needed
+    std::vector<size_t> recordOfLun_;          // by LUN index
     std::unordered_map<std::string, size_t> recordOfWwuln_;
-    std::vector<unsigned> lunSeenInWalk_;           // by LUN index: the walk that last took it
+    std::vector<unsigned> lunSeenInWalk_; // by LUN index: the walk that last took it
     unsigned walk_ = 0;
-    KLunInfo standing_;                             // reused: the merge reads only the standing
+    KLunInfo standing_; // reused: the merge reads only the standing
 };
 
 } // namespace sim

@@ -9,9 +9,12 @@ namespace {
 
 int hexValue(char c)
 {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
     return -1;
 }
 
@@ -37,7 +40,7 @@ bool hexToBytes(const std::string& hex, std::vector<unsigned char>& out)
     for (size_t i = 0; i < out.size(); ++i) {
         int hi = hexValue(hex[2 * i]), lo = hexValue(hex[2 * i + 1]);
         if (hi < 0 || lo < 0) {
-            out.resize(i);      // the bytes before the fault stay, as some callers pad them
+            out.resize(i); // the bytes before the fault stay, as some callers pad them
             return false;
         }
         out[i] = static_cast<unsigned char>(hi * 16 + lo);

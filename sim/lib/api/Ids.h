@@ -50,7 +50,7 @@ private:
 
 KDriveID driveId(const Drive& d);
 KWwulnLunID driveSsdId(const Drive& d);
-std::string driveName(const KUniqueID& id);     // the name inside a drive or SSD identifier
+std::string driveName(const KUniqueID& id); // the name inside a drive or SSD identifier
 
 KClusterID clusterId(const std::string& id);
 std::string clusterName(const KClusterID& id);
@@ -58,7 +58,7 @@ std::string clusterName(const KClusterID& id);
 // Numeric IPv4, IPv6 or "localhost"; never a name lookup.
 bool parseAgentAddress(const std::string& text, PIpAddress& out, std::string& error);
 PIpAddress agentAddress(const std::string& agent);
-std::string agentText(const PIpAddress& address);   // "" for the local host
+std::string agentText(const PIpAddress& address); // "" for the local host
 
 KIsaAdapterPath adapterPath(const Adapter& a);
 // The adapter a path names: a device on its host, or an identifier reached

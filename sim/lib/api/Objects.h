@@ -190,8 +190,8 @@ public:
     PLunID id;
     KLunInfo info;
     Refresher refresh;
-    const std::uint64_t* changes = nullptr;     // the process's count of changes made
-    std::uint64_t filledAt = 0;                 // that count when `info` was filled
+    const std::uint64_t* changes = nullptr; // the process's count of changes made
+    std::uint64_t filledAt = 0;             // that count when `info` was filled
 };
 
 class SimLunCollection : public IndexedCollection<HLunCollection, SimLun> {

@@ -73,7 +73,7 @@ int SimAdapter::withAdapter(const char* operation, const Reader& read, MHbaRetur
         injected = backend_.fault(id_, operation, firstError);
         if (injected != code::Ok && injected != code::Partial)
             return injected;
-        san = backend_.view();     // taking the fault changed the SAN
+        san = backend_.view(); // taking the fault changed the SAN
         if (!san)
             return code::StateFileError;
     }
@@ -100,7 +100,8 @@ int SimAdapter::applyToLun(const char* operation, const PLunID& lun, const LunRu
     PathRef path;
     if (!pathFor(*san, lun, path))
         return code::ObjectNotFound;
-    return apply(operation, [&](San& s, long long now) { return rule(s, now, path); }, keepAlways);
+    return apply(
+        operation, [&](San& s, long long now) { return rule(s, now, path); }, keepAlways);
 }
 
 int SimAdapter::applyToWwuln(const char* operation, const KWwulnLunID& id, bool viaPrimary)
@@ -112,9 +113,8 @@ int SimAdapter::applyToWwuln(const char* operation, const KWwulnLunID& id, bool 
     if (!lun)
         return code::ObjectNotFound;
     std::string wwuln = lun->wwuln;
-    return apply(operation, [&](San& s, long long now) {
-        return rules::disableCacheByWwuln(s, id_, wwuln, viaPrimary, now);
-    });
+    return apply(operation,
+                 [&](San& s, long long now) { return rules::disableCacheByWwuln(s, id_, wwuln, viaPrimary, now); });
 }
 
 // ---- collections --------------------------------------------------------------
@@ -162,9 +162,8 @@ void SimAdapter::discoverOnce()
 e_MHBA_RETURN SimAdapter::getTargetsAndInitiators(MHbaReturnBuffer* firstError)
 {
     discovered_ = true;
-    return asReturn(withAdapter("getTargetsAndInitiators", [&](const San& san, const Adapter& a) {
-        return gatherFabric(san, a);
-    }, firstError));
+    return asReturn(withAdapter(
+        "getTargetsAndInitiators", [&](const San& san, const Adapter& a) { return gatherFabric(san, a); }, firstError));
 }
 
 int SimAdapter::gatherFabric(const San& san, const Adapter& a)
@@ -234,7 +233,7 @@ void SimAdapter::fillLun(SimLun& lun, const San& san, const Adapter& a, const Vi
     lun.changes = backend_.changeCount();
     lun.filledAt = *lun.changes;
     if (!p.target->online)
-        lun.info.ui32LunState &= ~1u;   // no way to reach it through this target
+        lun.info.ui32LunState &= ~1u; // no way to reach it through this target
     if (backend_.inDemonstration()) {
         // A saved image does not carry the firmware's default sizes.
         lun.info.ui32DefaultMaxRead = lun.info.ui32DefaultMinRead = 0;
@@ -294,9 +293,9 @@ e_MHBA_RETURN SimAdapter::getLunsForSpecificTarget(HTarget* target, MHbaReturnBu
     SimTarget* held = targets_.byName(static_cast<SimTarget*>(target)->name);
     if (held != target)
         return MHBA_E_OBJECT_NOT_FOUND;
-    return asReturn(withAdapter("getLunsForSpecificTarget", [&](const San& san, const Adapter& a) {
-        return gatherLunsOf(san, a, *held);
-    }, firstError));
+    return asReturn(withAdapter(
+        "getLunsForSpecificTarget", [&](const San& san, const Adapter& a) { return gatherLunsOf(san, a, *held); },
+        firstError));
 }
 
 e_MHBA_RETURN SimAdapter::getLunIoStatistics(const uint8_t* wwuln, uint32_t wwulnLength, bool withCacheStatistics,
@@ -313,27 +312,30 @@ e_MHBA_RETURN SimAdapter::getLunIoStatistics(const uint8_t* wwuln, uint32_t wwul
 
 e_MHBA_RETURN SimAdapter::getDrivesWithErrorDetails(MHbaReturnBuffer* firstError)
 {
-    return asReturn(withAdapter("getDrivesWithErrorDetails", [&](const San&, const Adapter& a) {
-        auto pool = std::make_unique<SimDrivePool>();
-        unsigned char name[] = "CachePool";
-        pool->id.initDrivePoolID(name);
-        for (const Drive& d : a.drives) {
-            KDriveID id = driveId(d);
-            SimDrive* held = static_cast<SimDrive*>(drives_.find(id));
-            if (!held) {
-                auto fresh = std::make_unique<SimDrive>();
-                fresh->id = id;
-                held = drives_.add(std::move(fresh));
+    return asReturn(withAdapter(
+        "getDrivesWithErrorDetails",
+        [&](const San&, const Adapter& a) {
+            auto pool = std::make_unique<SimDrivePool>();
+            unsigned char name[] = "CachePool";
+            pool->id.initDrivePoolID(name);
+            for (const Drive& d : a.drives) {
+                KDriveID id = driveId(d);
+                SimDrive* held = static_cast<SimDrive*>(drives_.find(id));
+                if (!held) {
+                    auto fresh = std::make_unique<SimDrive>();
+                    fresh->id = id;
+                    held = drives_.add(std::move(fresh));
+                }
+                fillDriveInfo(a, d, false, held->info);
+                if (d.configured)
+                    pool->drives.ids.push_back(id);
             }
-            fillDriveInfo(a, d, false, held->info);
-            if (d.configured)
-                pool->drives.ids.push_back(id);
-        }
-        pools_.clear();
-        if (!pool->drives.ids.empty())
-            pools_.add(std::move(pool));
-        return code::Ok;
-    }, firstError));
+            pools_.clear();
+            if (!pool->drives.ids.empty())
+                pools_.add(std::move(pool));
+            return code::Ok;
+        },
+        firstError));
 }
 
 int SimAdapter::changePool(const char* operation, const KUniqueID& drive, bool add)
@@ -394,9 +396,8 @@ e_MHBA_RETURN SimAdapter::setPassword(const char* account, const char* oldPasswo
     if (!account || std::strcmp(account, "admin") != 0)
         return MHBA_E_INVALID_ARG;
     std::string oldText = oldPassword ? oldPassword : "", newText = newPassword ? newPassword : "";
-    return asReturn(apply("setPassword", [&](San& s, long long now) {
-        return rules::setPassword(s, id_, oldText, newText, now);
-    }));
+    return asReturn(
+        apply("setPassword", [&](San& s, long long now) { return rules::setPassword(s, id_, oldText, newText, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::restart(int)
@@ -414,8 +415,8 @@ std::string SimAdapter::capture(const San& san, const Adapter& a) const
     text += "Cache pool:      " + std::to_string(a.cachePoolBytes >> 20) + " MB\n";
     text += "FC ports:        " + std::to_string(a.ports.size()) + "\n";
     for (size_t i = 0; i < a.ports.size(); ++i)
-        text += "  FC" + std::to_string(i + 1) + ": " + (a.ports[i].enabled ? "enabled" : "disabled") + ", WWPN "
-                + a.ports[i].wwpn + "\n";
+        text += "  FC" + std::to_string(i + 1) + ": " + (a.ports[i].enabled ? "enabled" : "disabled") + ", WWPN " +
+            a.ports[i].wwpn + "\n";
     int cached = 0;
     for (const Lun& l : san.luns)
         cached += l.cached && l.cache.adapter == a.id;
@@ -435,9 +436,8 @@ int SimAdapter::writeFile(const std::string& file, const std::string& text)
 
 e_MHBA_RETURN SimAdapter::saveCaptureFile(const std::string& file)
 {
-    return asReturn(withAdapter("saveCaptureFile", [&](const San& san, const Adapter& a) {
-        return writeFile(file, capture(san, a));
-    }));
+    return asReturn(withAdapter("saveCaptureFile",
+                                [&](const San& san, const Adapter& a) { return writeFile(file, capture(san, a)); }));
 }
 
 e_MHBA_RETURN SimAdapter::saveFruFile(const std::string& file)
@@ -473,9 +473,8 @@ e_MHBA_RETURN SimAdapter::getSystemCapture(std::string& text)
 
 e_MHBA_RETURN SimAdapter::restoreDriveConfig(uint64_t ownerId)
 {
-    return asReturn(apply("restoreDriveConfig", [&](San& s, long long now) {
-        return rules::restoreDriveConfig(s, id_, ownerId, now);
-    }));
+    return asReturn(apply("restoreDriveConfig",
+                          [&](San& s, long long now) { return rules::restoreDriveConfig(s, id_, ownerId, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::saveCacheDump(int, const std::string& path)
@@ -486,9 +485,9 @@ e_MHBA_RETURN SimAdapter::saveCacheDump(int, const std::string& path)
         for (const Lun& l : san.luns) {
             if (!l.cached || l.cache.adapter != a.id)
                 continue;
-            text += "LUN " + l.wwuln + ": mode " + std::to_string(l.cache.mode) + ", dirty "
-                    + std::to_string(l.cache.dirtyBytes) + " bytes, locked ranges "
-                    + std::to_string(l.cache.lockedRanges.size()) + "\n";
+            text += "LUN " + l.wwuln + ": mode " + std::to_string(l.cache.mode) + ", dirty " +
+                std::to_string(l.cache.dirtyBytes) + " bytes, locked ranges " +
+                std::to_string(l.cache.lockedRanges.size()) + "\n";
         }
         return writeFile(path, text);
     }));
@@ -530,9 +529,8 @@ e_MHBA_RETURN SimAdapter::getFile(const char* localFile, const char* name, bool 
             return code::Ok;
         });
     } else {
-        rc = apply("getFile", [&](San& s, long long now) {
-            return rules::fetchFile(s, id_, wanted, clearAfter, content, now);
-        });
+        rc = apply("getFile",
+                   [&](San& s, long long now) { return rules::fetchFile(s, id_, wanted, clearAfter, content, now); });
     }
     if (rc != code::Ok)
         return asReturn(rc);
@@ -547,9 +545,8 @@ e_MHBA_RETURN SimAdapter::putFile(const char* localFile, const char* name, bool 
         return asReturn(code::FileError);
     }
     std::string target = name ? name : baseName(localFile);
-    return asReturn(apply("putFile", [&](San& s, long long now) {
-        return rules::storeFile(s, id_, target, content, clearFirst, now);
-    }));
+    return asReturn(apply(
+        "putFile", [&](San& s, long long now) { return rules::storeFile(s, id_, target, content, clearFirst, now); }));
 }
 
 // ---- adapter, pool, ports and health ------------------------------------------------
@@ -582,9 +579,8 @@ e_MHBA_RETURN SimAdapter::getAdapterInfo(KIsaAdapterInfo& out)
 e_MHBA_RETURN SimAdapter::setSymbolicName(const char* name, size_t length)
 {
     std::string text = name ? std::string(name, strnlen(name, length)) : "";
-    return asReturn(apply("setSymbolicName", [&](San& s, long long now) {
-        return rules::setSymbolicName(s, id_, text, now);
-    }));
+    return asReturn(
+        apply("setSymbolicName", [&](San& s, long long now) { return rules::setSymbolicName(s, id_, text, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::getMemoryInfo(KMemoryInfo& out)
@@ -605,9 +601,8 @@ e_MHBA_RETURN SimAdapter::getAdapterStatistics(KCacheStatistics& out)
 
 e_MHBA_RETURN SimAdapter::clearAdapterStatistics()
 {
-    return asReturn(apply("clearAdapterStatistics", [&](San& s, long long now) {
-        return rules::clearStatistics(s, id_, now);
-    }));
+    return asReturn(
+        apply("clearAdapterStatistics", [&](San& s, long long now) { return rules::clearStatistics(s, id_, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::getPoolInfo(KPoolInfo& out)
@@ -620,7 +615,8 @@ e_MHBA_RETURN SimAdapter::getPoolInfo(KPoolInfo& out)
 
 e_MHBA_RETURN SimAdapter::setPoolSize(uint32_t megabytes)
 {
-    return asReturn(apply("setPoolSize", [&](San& s, long long now) { return rules::setPoolSize(s, id_, megabytes, now); }));
+    return asReturn(
+        apply("setPoolSize", [&](San& s, long long now) { return rules::setPoolSize(s, id_, megabytes, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::removePool()
@@ -673,16 +669,14 @@ e_MHBA_RETURN SimAdapter::getAdapterHealth(KAdapterHealthInfo& out)
 
 e_MHBA_RETURN SimAdapter::setBeacon(uint32_t portIndex, bool enable)
 {
-    return asReturn(apply("setBeacon", [&](San& s, long long now) {
-        return rules::setBeacon(s, id_, portIndex, enable, now);
-    }));
+    return asReturn(
+        apply("setBeacon", [&](San& s, long long now) { return rules::setBeacon(s, id_, portIndex, enable, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::executeNvdimmCommand(int command)
 {
-    return asReturn(apply("executeNvdimmCommand", [&](San& s, long long now) {
-        return rules::runNvdimmCommand(s, id_, command, now);
-    }));
+    return asReturn(apply("executeNvdimmCommand",
+                          [&](San& s, long long now) { return rules::runNvdimmCommand(s, id_, command, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::getNvdimmInfo(KNvdimmInfo& out)
@@ -697,8 +691,8 @@ e_MHBA_RETURN SimAdapter::getNvdimmInfo(KNvdimmInfo& out)
 
 // ---- LUNs and their cache ----------------------------------------------------------
 
-e_MHBA_RETURN SimAdapter::createLun(uint64_t sizeBytes, const std::string& name, int mirrorType,
-                                    uint64_t mirrorAdapter, KWwulnLunID& newLun)
+e_MHBA_RETURN SimAdapter::createLun(uint64_t sizeBytes, const std::string& name, int mirrorType, uint64_t mirrorAdapter,
+                                    KWwulnLunID& newLun)
 {
     std::string wwuln;
     int rc = apply("createLun", [&](San& s, long long now) {
@@ -748,9 +742,8 @@ e_MHBA_RETURN SimAdapter::clearLunStatistics(const uint8_t* wwuln, uint32_t wwul
     if (!lun)
         return MHBA_E_OBJECT_NOT_FOUND;
     std::string name = lun->wwuln;
-    return asReturn(apply("clearLunStatistics", [&](San& s, long long now) {
-        return rules::clearLunStatistics(s, id_, name, now);
-    }));
+    return asReturn(apply("clearLunStatistics",
+                          [&](San& s, long long now) { return rules::clearLunStatistics(s, id_, name, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::enableCache(const PLunID& lun, int mode, int profile, uint32_t maxCache, uint32_t minRead,
@@ -792,9 +785,9 @@ e_MHBA_RETURN SimAdapter::startCacheFlush(const PLunID& lun)
 e_MHBA_RETURN SimAdapter::getCacheFlushProgress(const PLunID& lun, uint32_t* inProgress)
 {
     bool running = false;
-    int rc = applyToLun("getCacheFlushProgress", lun, [&](San& s, long long now, const PathRef& p) {
-        return rules::flushProgress(s, id_, p, running, now);
-    }, true);
+    int rc = applyToLun(
+        "getCacheFlushProgress", lun,
+        [&](San& s, long long now, const PathRef& p) { return rules::flushProgress(s, id_, p, running, now); }, true);
     if (inProgress)
         *inProgress = rc == code::Ok && running ? 1 : 0;
     // No progress message here: the command line shows a dot per poll, and a
@@ -882,9 +875,8 @@ e_MHBA_RETURN SimAdapter::createCluster(const KIsaAdapterPath& primary, const KI
 e_MHBA_RETURN SimAdapter::destroyCluster(const KClusterID& id)
 {
     std::string name = clusterName(id);
-    return asReturn(apply("destroyCluster", [&](San& s, long long now) {
-        return rules::destroyCluster(s, id_, name, now);
-    }));
+    return asReturn(
+        apply("destroyCluster", [&](San& s, long long now) { return rules::destroyCluster(s, id_, name, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::addClusterMember(const KIsaAdapterPath& member, const KClusterID& id)
@@ -897,9 +889,8 @@ e_MHBA_RETURN SimAdapter::addClusterMember(const KIsaAdapterPath& member, const 
         return MHBA_E_ADAPTER_NOT_IN_COLLECTION;
     u64 mid = m->id.value;
     std::string name = clusterName(id);
-    return asReturn(apply("addClusterMember", [&](San& s, long long now) {
-        return rules::addClusterMember(s, id_, mid, name, now);
-    }));
+    return asReturn(apply("addClusterMember",
+                          [&](San& s, long long now) { return rules::addClusterMember(s, id_, mid, name, now); }));
 }
 
 e_MHBA_RETURN SimAdapter::removeClusterMember(const KIsaAdapterPath& member, const KClusterID& id)
@@ -912,9 +903,8 @@ e_MHBA_RETURN SimAdapter::removeClusterMember(const KIsaAdapterPath& member, con
         return MHBA_E_ADAPTER_NOT_IN_COLLECTION;
     u64 mid = m->id.value;
     std::string name = clusterName(id);
-    return asReturn(apply("removeClusterMember", [&](San& s, long long now) {
-        return rules::removeClusterMember(s, id_, mid, name, now);
-    }));
+    return asReturn(apply("removeClusterMember",
+                          [&](San& s, long long now) { return rules::removeClusterMember(s, id_, mid, name, now); }));
 }
 
 // ---- log ---------------------------------------------------------------------------

@@ -134,8 +134,8 @@ public:
     e_MHBA_RETURN getCacheStatistics(KCacheInfoList& out) override;
     e_MHBA_RETURN getStatistics(KHostPcieInfo& out) override;
 
-    e_MHBA_RETURN createCluster(const KIsaAdapterPath& primary, const KIsaAdapterPath& secondary,
-                                const KClusterID& id, int hostClusterType) override;
+    e_MHBA_RETURN createCluster(const KIsaAdapterPath& primary, const KIsaAdapterPath& secondary, const KClusterID& id,
+                                int hostClusterType) override;
     e_MHBA_RETURN destroyCluster(const KClusterID& id) override;
     e_MHBA_RETURN addClusterMember(const KIsaAdapterPath& member, const KClusterID& id) override;
     e_MHBA_RETURN removeClusterMember(const KIsaAdapterPath& member, const KClusterID& id) override;
@@ -185,6 +185,9 @@ private:
     bool discovered_ = false;
 };
 
-inline e_MHBA_RETURN asReturn(int code) { return static_cast<e_MHBA_RETURN>(code); }
+inline e_MHBA_RETURN asReturn(int code)
+{
+    return static_cast<e_MHBA_RETURN>(code);
+}
 
 } // namespace sim

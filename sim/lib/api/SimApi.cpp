@@ -57,8 +57,8 @@ HIsaAdapter* SimAdapterCollection::find(const KIsaAdapterPath& path)
             return a.get();
     // A path through the SAN names its adapter by identifier alone.
     for (const auto& a : owned())
-        if (!path.isLocalDevice() && a->id() == path.isaHbaId()
-            && agentText(a->getAdapterPath()->ipAddrRemoteAgentHost()) == agentText(path.ipAddrRemoteAgentHost()))
+        if (!path.isLocalDevice() && a->id() == path.isaHbaId() &&
+            agentText(a->getAdapterPath()->ipAddrRemoteAgentHost()) == agentText(path.ipAddrRemoteAgentHost()))
             return a.get();
     return nullptr;
 }
@@ -169,7 +169,7 @@ e_MHBA_RETURN SimApi::saveDemonstrationFile(const std::string& file, std::string
     if (!san)
         return asReturn(code::StateFileError);
     San copy = *san;
-    copy.faults.clear();    // a demonstration shows the SAN, not the test bench
+    copy.faults.clear(); // a demonstration shows the SAN, not the test bench
     if (!writeTextFileAtomically(file, scenarioToText(copy), error))
         return asReturn(code::FileError);
     return MHBA_S_OK;
@@ -212,7 +212,7 @@ HIsaAdapterCollection* SimApi::getAdapters()
 
 void SimApi::clearAdapters()
 {
-    localsPresented_ = true;    // from now on only scans and checks bring adapters in
+    localsPresented_ = true; // from now on only scans and checks bring adapters in
     adapters_.clear();
 }
 

@@ -94,7 +94,7 @@ private:
     SimClusterCollection clusters_;
     SimGroupLuns groupLuns_;
     bool localsPresented_ = false;
-    std::string sessionHost_;   // the agent the session works through; empty: this host
+    std::string sessionHost_; // the agent the session works through; empty: this host
     AenCallback aen_ = nullptr;
     long long aenSince_ = 0;
 };

@@ -37,10 +37,7 @@ protected:
         setenv("HBASIM_TIME", "1795000000", 1);
         api = std::make_unique<SimApi>();
     }
-    void TearDown() override
-    {
-        api.reset();
-    }
+    void TearDown() override { api.reset(); }
 
     KIsaAdapterPath devicePath(int instance)
     {
@@ -227,7 +224,7 @@ TEST_F(SimApiTest, TargetsFollowPortsOfDiscovery)
     ASSERT_NE(dev0, nullptr);
     MHbaReturnBuffer first;
     ASSERT_EQ(dev0->getTargetsAndInitiators(&first), MHBA_S_OK);
-    EXPECT_EQ(dev0->getTargets()->items.size(), 5u);   // the internal one included
+    EXPECT_EQ(dev0->getTargets()->items.size(), 5u); // the internal one included
     HTarget* b = target(dev0, kArrayB);
     ASSERT_NE(b, nullptr);
     EXPECT_TRUE(b->getTargetInfo()->discoveredOnPort1);
@@ -310,7 +307,7 @@ TEST_F(SimApiTest, DisableRefusesForeignCacheAndRetriesByName)
     KWwulnLunID name;
     name.initWwulnLunID(info->eWwulnCodeSet, static_cast<int>(info->ui32WwulnLength), info->ui8Wwuln);
     EXPECT_EQ(dev0->disableCache(name), MHBA_E_CACHED_BY_OTHER_ADAPTER);
-    EXPECT_EQ(dev0->disableCacheByWwuln(name), MHBA_S_OK);      // dev0 is the cluster's primary
+    EXPECT_EQ(dev0->disableCacheByWwuln(name), MHBA_S_OK); // dev0 is the cluster's primary
     EXPECT_EQ(lun(adapter(1), kArrayB, 1)->eCacheState(), KLunInfo::CACHE_STATE_NOT_CACHED);
 }
 
@@ -332,7 +329,7 @@ TEST_F(SimApiTest, NameIndexFindsBinaryTextAndSerialNames)
     binary.initLunsForOneNameIDFromBinaryData(PBase::LUN_NAME_WWULN, bytes.data(), static_cast<int>(bytes.size()));
     HLunIdList* paths = index->findLuns(binary);
     ASSERT_NE(paths, nullptr);
-    EXPECT_EQ(paths->count(), 2u);      // the multi-path LUN
+    EXPECT_EQ(paths->count(), 2u); // the multi-path LUN
     PLunsForOneNameID text;
     text.initLunsForOneNameID(PBase::LUN_NAME_WWULN, "vault.example:lun-archive-07");
     ASSERT_NE(index->findLuns(text), nullptr);
@@ -351,7 +348,8 @@ TEST_F(SimApiTest, InjectedFaultsAnswerOnceOrPartly)
         san.faults.push_back({{kDev0}, "enableCache", 1000, true, 0});
         san.faults.push_back({{kDev0}, "getTargetsAndInitiators", 2, true, 1206});
         return 0;
-    }), 0);
+    }),
+              0);
     PLunID uncached = lunIdOn(kSpa, 1);
     EXPECT_EQ(dev0->enableCache(uncached, 1, 1, 0, 0, 0, 0, 0, 0), MHBA_E_FAILURE);
     EXPECT_EQ(dev0->enableCache(uncached, 1, 1, 0, 0, 0, 0, 0, 0), MHBA_S_OK);

@@ -29,7 +29,7 @@ std::unique_ptr<SimLogView> SimLogView::fromFile(const std::string& file)
             break;
         if (n != KLogEntry::SAVED_SIZE) {
             std::fclose(f);
-            return nullptr;     // a torn record: not a saved log
+            return nullptr; // a torn record: not a saved log
         }
         entry.entryNumber = static_cast<int32_t>(entries.size());
         entries.push_back(entry);

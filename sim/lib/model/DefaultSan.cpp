@@ -179,7 +179,7 @@ Lun cachedMirroredLun()
     c.lockedRanges = {{0, 2048}, {1048576, 8192}};
     c.mirrored = true;
     c.mirrorAdapter.value = kDev1;
-    c.mirrorState = 0x0101;    // configured, in synchrony
+    c.mirrorState = 0x0101; // configured, in synchrony
     c.mirrorFlag = 4;
     c.dirtyBytes = 512ull * 1024 * 1024;
     l.reservation = {3, "0123456789ABCDEF"};
@@ -197,8 +197,8 @@ Lun controllerLun()
 
 Lun peerCachedLun()
 {
-    Lun l = sanLun("600A0B80002A1C3D0000000052B2A001", 500 * GiB, "002A1C3D0000A001", "SV0B2A001",
-                   {path("array-b", 1)});
+    Lun l =
+        sanLun("600A0B80002A1C3D0000000052B2A001", 500 * GiB, "002A1C3D0000A001", "SV0B2A001", {path("array-b", 1)});
     l.vendor = "SIMSTORB";
     l.cached = true;
     l.cache.adapter.value = kDev1;
@@ -222,14 +222,14 @@ std::vector<Lun> luns()
 {
     Lun uncached = sanLun("60060160A1B2C3D4E5F6000000000002", 100 * GiB, "0000A1B2C3D40002", "APM00123400002",
                           {path("array-a-spa", 1), path("array-a-spb", 1, 6)});
-    Lun big = sanLun("600A0B80002A1C3D0000000052B2A002", 2048 * GiB, "002A1C3D0000A002", "SV0B2A002",
-                     {path("array-b", 2)});
+    Lun big =
+        sanLun("600A0B80002A1C3D0000000052B2A002", 2048 * GiB, "002A1C3D0000A002", "SV0B2A002", {path("array-b", 2)});
     big.vendor = "SIMSTORB";
     Lun offline = sanLun("600A0B80002A1C3D0000000052B2A003", 10 * GiB, "002A1C3D0000A003", "", {path("array-b", 3, 1)});
     offline.vendor = "SIMSTORB";
     offline.online = false;
-    Lun textName = sanLun("vault.example:lun-archive-07", 750 * GiB, "0000000000000707", "VLT07",
-                          {path("iscsi-vault", 0)});
+    Lun textName =
+        sanLun("vault.example:lun-archive-07", 750 * GiB, "0000000000000707", "VLT07", {path("iscsi-vault", 0)});
     textName.codeSet = 2;
     textName.vendor = "VAULTSIM";
     textName.product = "ISCSI-VOL";
@@ -292,17 +292,16 @@ Drive makeDrive(u64 adapterId, int index, u64 sizeBytes, bool configured)
 
 std::vector<LogRecord> makeLog(long long now, int count)
 {
-    static const struct { int severity; const char* source; const char* message; } kinds[] = {
-        {5, "cachemgr", "Cache pool online, %d SSDs in pool"},
-        {4, "fcdrv", "Port FC%d link up at 8 Gb/s"},
-        {3, "fcdrv", "Port FC%d link down, waiting for light"},
-        {5, "cluster", "Peer heartbeat restored after %d ms"},
-        {2, "cachemgr", "Write-back flush retried on LUN %d"},
-        {6, "scsimid", "Inquiry data refreshed for %d LUNs"},
-        {7, "system", "Configuration saved, generation %d"},
-        {1, "adapter", "Watchdog reset of core %d"},
-        {0, "unknown", "Unclassified event code %d"},
-        {3, "ssd", "Drive %d wear level above 80 percent"},
+    static const struct {
+        int severity;
+        const char* source;
+        const char* message;
+    } kinds[] = {
+        {5, "cachemgr", "Cache pool online, %d SSDs in pool"},  {4, "fcdrv", "Port FC%d link up at 8 Gb/s"},
+        {3, "fcdrv", "Port FC%d link down, waiting for light"}, {5, "cluster", "Peer heartbeat restored after %d ms"},
+        {2, "cachemgr", "Write-back flush retried on LUN %d"},  {6, "scsimid", "Inquiry data refreshed for %d LUNs"},
+        {7, "system", "Configuration saved, generation %d"},    {1, "adapter", "Watchdog reset of core %d"},
+        {0, "unknown", "Unclassified event code %d"},           {3, "ssd", "Drive %d wear level above 80 percent"},
     };
     std::vector<LogRecord> log;
     for (int i = 0; i < count; ++i) {

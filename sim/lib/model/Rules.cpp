@@ -14,7 +14,7 @@ namespace sim::rules {
 namespace {
 
 constexpr u64 MiB = 1024ull * 1024;
-constexpr u32 kPollsToFinish = 2;       // a pinned clock still ends a flush or a restart
+constexpr u32 kPollsToFinish = 2; // a pinned clock still ends a flush or a restart
 constexpr long long kRestartSeconds = 12;
 constexpr long long kPurgeSeconds = 30;
 
@@ -61,9 +61,12 @@ int ownCachedLun(San& san, u64 adapter, const PathRef& path, long long now, Lun*
     if (rc != code::Ok)
         return rc;
     switch (cacheStateFor(*lun, adapter)) {
-    case 1: return code::NotCached;
-    case 3: return code::CachedElsewhere;
-    default: return code::Ok;
+    case 1:
+        return code::NotCached;
+    case 3:
+        return code::CachedElsewhere;
+    default:
+        return code::Ok;
     }
 }
 
@@ -99,11 +102,14 @@ void applyMirror(CacheSettings& c, u64 mirror)
 {
     c.mirrored = mirror != 0;
     c.mirrorAdapter.value = mirror;
-    c.mirrorState = mirror ? 0x0101 : 0;    // configured, in synchrony
+    c.mirrorState = mirror ? 0x0101 : 0; // configured, in synchrony
     c.mirrorFlag = mirror ? 4 : 0;
 }
 
-u32 orDefault(u32 value, u32 fallback) { return value ? value : fallback; }
+u32 orDefault(u32 value, u32 fallback)
+{
+    return value ? value : fallback;
+}
 
 void applyWindows(CacheSettings& c, const CacheRequest& req)
 {
@@ -154,9 +160,12 @@ int stopOrPurge(San& san, u64 adapter, Lun& lun, int mode, long long now)
     if (!isCacheableLun(lun))
         return code::NotSanDataLun;
     switch (cacheStateFor(lun, adapter)) {
-    case 1: return code::NotCached;
-    case 3: return code::CachedElsewhere;
-    default: break;
+    case 1:
+        return code::NotCached;
+    case 3:
+        return code::CachedElsewhere;
+    default:
+        break;
     }
     if (mode == 6) {
         lun.cache.mode = 6;
@@ -166,8 +175,8 @@ int stopOrPurge(San& san, u64 adapter, Lun& lun, int mode, long long now)
         return code::Ok;
     }
     if (!lun.online)
-        return code::LunGone;       // its dirty data has nowhere to go
-    stopCaching(lun);               // dirty data is written back on the way out
+        return code::LunGone; // its dirty data has nowhere to go
+    stopCaching(lun);         // dirty data is written back on the way out
     return code::Ok;
 }
 
@@ -306,20 +315,22 @@ int enableCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& 
     if (!lun->online)
         return code::LunGone;
     switch (cacheStateFor(*lun, adapter)) {
-    case 2: return code::AlreadyCached;
-    case 3: return code::CachedElsewhere;
-    default: break;
+    case 2:
+        return code::AlreadyCached;
+    case 3:
+        return code::CachedElsewhere;
+    default:
+        break;
     }
     return startCaching(san, *a, *lun, req, now);
 }
 
-int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, bool useDefaults,
-                long long now)
+int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, bool useDefaults, long long now)
 {
     return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
         Adapter* a = findAdapter(san, adapter);
         CacheSettings& c = lun.cache;
-        int mode = req.mode == 0 ? c.mode : req.mode;   // no mode keeps the present one
+        int mode = req.mode == 0 ? c.mode : req.mode; // no mode keeps the present one
         if (mode < 1 || mode > 6 || req.profile < 0 || req.profile > 6)
             return code::InvalidArgument;
         if (mode != c.mode && (mode == 2 || mode == 5) && !hasCapability(*a, "WRITE_BACK_CACHE"))
@@ -343,7 +354,7 @@ int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& 
         if (req.mirrorAdapter != c.mirrorAdapter.value || !c.mirrored)
             applyMirror(c, req.mirrorAdapter);
         if (mode == 1 || mode == 3 || mode == 4)
-            c.dirtyBytes = 0;           // leaving write-back writes the dirty data out
+            c.dirtyBytes = 0; // leaving write-back writes the dirty data out
         return code::Ok;
     });
 }
@@ -435,7 +446,7 @@ int invalidateRange(San& san, u64 adapter, const PathRef& path, u64 start, u64 e
         if (end < start)
             return code::InvalidArgument;
         if (start == 0 && end == 0)
-            lun.cache.dirtyBytes = 0;  // the whole LUN
+            lun.cache.dirtyBytes = 0; // the whole LUN
         return code::Ok;
     });
 }
@@ -499,7 +510,7 @@ int modifyLun(San& san, u64 adapter, const PathRef& path, u64 sizeBytes, const s
     if (!isOwner(*lun, adapter))
         return code::InvalidArgument;
     if (sizeBytes != 0 && sizeBytes < lun->sizeBytes)
-        return code::InvalidArgument;   // LUNs only grow
+        return code::InvalidArgument; // LUNs only grow
     if (sizeBytes > lun->sizeBytes && sizeBytes - lun->sizeBytes > freeStorage(san, *a))
         return code::NotEnoughStorage;
     if (name.size() > 128)
@@ -658,7 +669,7 @@ int removeClusterMember(San& san, u64 adapter, u64 member, const std::string& id
         if (it == c.members.end())
             return code::ObjectNotFound;
         if (member == c.primary.value || member == c.secondary.value)
-            return code::InvalidArgument;   // the roles leave with the cluster
+            return code::InvalidArgument; // the roles leave with the cluster
         c.members.erase(it);
         return code::Ok;
     });
@@ -765,8 +776,8 @@ int setTargetMaxOutstandingIo(San& san, u64 adapter, const std::string& target, 
 int setPortSettings(San& san, u64 adapter, u32 port, int linkRate, int option, u32 throttle, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
-        if (port >= a.ports.size() || linkRate < 0 || linkRate > 5 || option < 0 || option > 2 || throttle < 1
-            || throttle > 65535)
+        if (port >= a.ports.size() || linkRate < 0 || linkRate > 5 || option < 0 || option > 2 || throttle < 1 ||
+            throttle > 65535)
             return code::InvalidArgument;
         Port& p = a.ports[port];
         p.programmedLinkRate = linkRate;
@@ -798,8 +809,8 @@ int storeFile(San& san, u64 adapter, const std::string& name, const std::string&
     return onAdapter(san, adapter, now, [&](Adapter& a) {
         // The name is a key of the JSON state, so it must be text; the
         // content may be any bytes.
-        if (name.empty() || name.find('/') != std::string::npos || !codec::isUtf8(name)
-            || content.size() > 4 * 1024 * 1024)
+        if (name.empty() || name.find('/') != std::string::npos || !codec::isUtf8(name) ||
+            content.size() > 4 * 1024 * 1024)
             return code::InvalidArgument;
         if (clearFirst) {
             a.files.clear();
@@ -843,10 +854,19 @@ int runNvdimmCommand(San& san, u64 adapter, int command, long long now)
         if (!a.nvdimm.present)
             return code::NotSupported;
         switch (command) {
-        case 0: a.nvdimm.status = 1; break;                 // disarmed
-        case 1: case 6: case 7: break;                       // erase, self test, scrub
-        case 2: case 5: a.nvdimm.status = 2; break;          // updated and armed again
-        default: return code::InvalidArgument;
+        case 0:
+            a.nvdimm.status = 1;
+            break; // disarmed
+        case 1:
+        case 6:
+        case 7:
+            break; // erase, self test, scrub
+        case 2:
+        case 5:
+            a.nvdimm.status = 2;
+            break; // updated and armed again
+        default:
+            return code::InvalidArgument;
         }
         appendLog(a, now, 5, "nvdimm", "NVDIMM command " + std::to_string(command) + " completed");
         return code::Ok;
@@ -894,7 +914,7 @@ void appendLog(Adapter& a, long long now, int severity, const std::string& sourc
 {
     a.log.push_back({now, severity, source, message});
     if (a.log.size() > 2000)
-        a.log.erase(a.log.begin());     // the adapter keeps a bounded log
+        a.log.erase(a.log.begin()); // the adapter keeps a bounded log
 }
 
 bool hasFault(const San& san, u64 adapter, const std::string& operation)

@@ -10,10 +10,10 @@
 namespace sim::rules {
 
 struct CacheRequest {
-    int mode = 0;                   // 0 stop caching, 6 purge
+    int mode = 0; // 0 stop caching, 6 purge
     int profile = 1;
     u32 maxCacheMb = 0;
-    u32 minRead = 0, maxRead = 0, minWrite = 0, maxWrite = 0;   // 512-byte blocks
+    u32 minRead = 0, maxRead = 0, minWrite = 0, maxWrite = 0; // 512-byte blocks
     u64 mirrorAdapter = 0;
 };
 
@@ -28,8 +28,7 @@ inline constexpr u32 kDefaultMaxWrite = 2048;
 void settle(San& san, long long now);
 
 int enableCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, long long now);
-int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, bool useDefaults,
-                long long now);
+int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& req, bool useDefaults, long long now);
 int disableCacheByWwuln(San& san, u64 adapter, const std::string& wwuln, bool viaClusterPrimary, long long now);
 int startFlush(San& san, u64 adapter, const PathRef& path, long long now);
 int flushProgress(San& san, u64 adapter, const PathRef& path, bool& inProgress, long long now);

@@ -23,9 +23,9 @@ protected:
         san = defaultSan();
     }
     San san;
-    PathRef mirrored{"array-a-spa", 0, 1};    // cached write-back on device 0
+    PathRef mirrored{"array-a-spa", 0, 1}; // cached write-back on device 0
     PathRef uncached{"array-a-spa", 1, 1};
-    PathRef peerCached{"array-b", 1, 1};       // cached on device 1
+    PathRef peerCached{"array-b", 1, 1}; // cached on device 1
     PathRef offline{"array-b", 3, 1};
     PathRef controller{"array-a-spa", 31, 1};
 };
@@ -147,7 +147,7 @@ TEST_F(RulesTest, RestartEndsAfterBoundedPolls)
     EXPECT_EQ(rules::pollWhileRestarting(san, kDev0, kNow), code::AdapterNotResponding);
     EXPECT_EQ(rules::pollWhileRestarting(san, kDev0, kNow), code::Ok);
     ASSERT_EQ(rules::restart(san, kDev0, kNow), code::Ok);
-    rules::settle(san, kNow + 12);     // or the clock runs out the restart
+    rules::settle(san, kNow + 12); // or the clock runs out the restart
     EXPECT_EQ(rules::pollWhileRestarting(san, kDev0, kNow + 12), code::Ok);
 }
 
@@ -168,8 +168,7 @@ TEST_F(RulesTest, CreateLunNeedsCapabilityAndStorage)
     ASSERT_NE(lun, nullptr);
     EXPECT_TRUE(lun->local);
     std::string text;
-    EXPECT_EQ(rules::removeLun(san, kDev0, PathRef{lun->paths[0].target, lun->paths[0].lun, 1}, text, kNow),
-              code::Ok);
+    EXPECT_EQ(rules::removeLun(san, kDev0, PathRef{lun->paths[0].target, lun->paths[0].lun, 1}, text, kNow), code::Ok);
     EXPECT_EQ(findLunByWwuln(san, wwuln), nullptr);
 }
 

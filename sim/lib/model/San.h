@@ -22,8 +22,8 @@ struct AdapterId {
 };
 
 struct Host {
-    std::string agent;              // empty for the local host, else the agent address
-    int hostType = 2;               // 2 Linux
+    std::string agent; // empty for the local host, else the agent address
+    int hostType = 2;  // 2 Linux
     std::string systemName = "Linux";
     std::string nodeName;
     std::string osVersion;
@@ -31,7 +31,7 @@ struct Host {
     std::string machineName = "x86_64";
     std::string domainName = "(none)";
     std::string driverVersion;
-    bool online = true;             // an agent that is down does not answer
+    bool online = true; // an agent that is down does not answer
     std::vector<u32> agentVersion = {2, 103, 6, 4};
 };
 
@@ -48,10 +48,10 @@ struct Sfp {
 
 struct Port {
     bool enabled = true;
-    bool online = true;             // link up when enabled and online
+    bool online = true; // link up when enabled and online
     int fcMode = 0;
-    int linkRate = 3;               // PBase::FC_LINK_RATE value in use (8 Gb)
-    int programmedLinkRate = 0;     // 0 auto
+    int linkRate = 3;           // PBase::FC_LINK_RATE value in use (8 Gb)
+    int programmedLinkRate = 0; // 0 auto
     std::string wwnn;
     std::string wwpn;
     u32 portId = 0;
@@ -61,7 +61,7 @@ struct Port {
     u32 executionThrottle = 64;
     int connectionMode = 1;
     int connectionOption = 2;
-    bool fcipLink = false;          // a port carrying an FCIP link cannot be disabled
+    bool fcipLink = false; // a port carrying an FCIP link cannot be disabled
     bool beacon = false;
     Sfp sfp;
 };
@@ -77,19 +77,19 @@ struct SmartAttribute {
 };
 
 struct Drive {
-    std::string id;                 // the drive identifier the user names
+    std::string id; // the drive identifier the user names
     std::string vendor = "SIMSSD";
     std::string product = "FLASH-400";
     std::string revision = "1.00";
     std::string serial;
     u64 sizeBytes = 0;
-    bool configured = false;        // member of the pool
+    bool configured = false; // member of the pool
     bool online = true;
     bool pcieSsd = false;
     bool securityLocked = false;
     bool identityConflict = false;
     bool external = false;
-    int smartStatus = 0;            // 0 pass, 1 fail
+    int smartStatus = 0; // 0 pass, 1 fail
     std::vector<SmartAttribute> smart;
 };
 
@@ -126,18 +126,18 @@ struct Nvdimm {
 // A fault makes one operation on one adapter answer with a chosen code.
 struct Fault {
     AdapterId adapter;
-    std::string operation;          // API operation name, "*" for any
+    std::string operation; // API operation name, "*" for any
     int code = 1000;
     bool once = true;
-    int firstError = 0;             // for gathering operations: partial success with this inner code
+    int firstError = 0; // for gathering operations: partial success with this inner code
 };
 
 struct Adapter {
     AdapterId id;
-    std::string host;               // "" local host, else the agent address of its host
-    int device = -1;                // device instance on its host, -1 when reached only through the SAN
-    int viaDevice = 0;              // for SAN-only adapters: the local device through which it is reached
-    int state = 1;                  // 1 online, 2 offline
+    std::string host;  // "" local host, else the agent address of its host
+    int device = -1;   // device instance on its host, -1 when reached only through the SAN
+    int viaDevice = 0; // for SAN-only adapters: the local device through which it is reached
+    int state = 1;     // 1 online, 2 offline
     std::string productName = "ZEK-8200 Caching HBA";
     std::string symbolicName;
     std::string serialNumber;
@@ -151,15 +151,15 @@ struct Adapter {
     bool autoCluster = false;
     std::vector<Port> ports;
     std::vector<Drive> drives;
-    u64 cachePoolBytes = 0;         // part of the configured drives given to the cache
+    u64 cachePoolBytes = 0; // part of the configured drives given to the cache
     Health health;
     Nvdimm nvdimm;
-    std::map<std::string, std::string> files;   // adapter file store: files whose content is UTF-8 text
-    std::map<std::string, std::string> binaryFiles;  // the other files, base64-encoded; a name is in one map only
+    std::map<std::string, std::string> files;       // adapter file store: files whose content is UTF-8 text
+    std::map<std::string, std::string> binaryFiles; // the other files, base64-encoded; a name is in one map only
     std::vector<LogRecord> log;
-    long long bootTime = 0;         // restart and uptime
-    long long restartUntil = 0;     // not answering until then
-    u32 restartPolls = 0;           // polls seen while restarting; bounds a pinned clock
+    long long bootTime = 0;     // restart and uptime
+    long long restartUntil = 0; // not answering until then
+    u32 restartPolls = 0;       // polls seen while restarting; bounds a pinned clock
     long long statsClearedAt = 0;
     bool needsRestart = false;
     u32 memoryScale = 1;
@@ -170,24 +170,24 @@ struct Cluster {
     int hostClusterType = 0;
     AdapterId primary;
     AdapterId secondary;
-    std::vector<AdapterId> members;  // primary and secondary first, then plain members
+    std::vector<AdapterId> members; // primary and secondary first, then plain members
 };
 
 struct Target {
-    std::string name;               // scenario handle
-    int protocol = 1;               // 1 FC, 2 iSCSI
+    std::string name; // scenario handle
+    int protocol = 1; // 1 FC, 2 iSCSI
     std::string wwpn;
     std::string wwnn;
     u32 portId = 0;
     std::string iscsiName;
     bool chap = false;
-    std::vector<int> ports = {1};    // ports of discovery
+    std::vector<int> ports = {1}; // ports of discovery
     bool online = true;
     bool mapped = true;
     bool internal = false;
     int portalMode = 0;
     u32 maxOutstandingIo = 0;
-    std::vector<AdapterId> seenBy;  // empty: every adapter on the fabric
+    std::vector<AdapterId> seenBy; // empty: every adapter on the fabric
 };
 
 struct Initiator {
@@ -216,7 +216,7 @@ struct LockedRange {
 };
 
 struct CacheSettings {
-    AdapterId adapter;              // the adapter that caches the LUN
+    AdapterId adapter; // the adapter that caches the LUN
     int mode = 1;
     int profile = 1;
     u64 maxCacheBytes = 0;
@@ -230,8 +230,8 @@ struct CacheSettings {
     u32 mirrorState = 0;
     int mirrorFlag = 0;
     u64 dirtyBytes = 0;
-    long long flushStarted = 0;     // 0 no flush running
-    u32 flushPolls = 0;             // polls seen since the start; bounds a pinned clock
+    long long flushStarted = 0; // 0 no flush running
+    u32 flushPolls = 0;         // polls seen since the start; bounds a pinned clock
     long long since = 0;
 };
 
@@ -245,27 +245,27 @@ struct LocalLun {
 
 struct Reservation {
     int type = 1;
-    std::string key;                // 16 hexadecimal digits
+    std::string key; // 16 hexadecimal digits
 };
 
 struct Lun {
-    std::string wwuln;              // text, or hexadecimal digits for a binary WWULN
-    int codeSet = 1;                // 1 binary, 2 text
+    std::string wwuln; // text, or hexadecimal digits for a binary WWULN
+    int codeSet = 1;   // 1 binary, 2 text
     int type = 1;
     u64 sizeBytes = 0;
     std::string vendor = "SIMSTOR";
     std::string product = "VIRTUAL-DISK";
     std::string revision = "0001";
-    std::string serial;             // 16 hexadecimal digits
+    std::string serial; // 16 hexadecimal digits
     std::string page80;
     bool online = true;
-    u32 extraState = 0;             // further state bits beyond those derived
+    u32 extraState = 0; // further state bits beyond those derived
     std::vector<LunPath> paths;
     Reservation reservation;
     bool cached = false;
     CacheSettings cache;
     long long statsClearedAt = 0;
-    bool local = false;             // carved from an adapter's drives
+    bool local = false; // carved from an adapter's drives
     LocalLun localInfo;
 };
 

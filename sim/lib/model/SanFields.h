@@ -10,38 +10,44 @@
 // field); the JSON library itself stays out of the streaming codec.
 #include <nlohmann/detail/macro_scope.hpp>
 
-#define SIM_FIELDS_Host agent, hostType, systemName, nodeName, osVersion, osBuildDate, machineName, domainName, \
-    driverVersion, online, agentVersion
+#define SIM_FIELDS_Host                                                                                                \
+    agent, hostType, systemName, nodeName, osVersion, osBuildDate, machineName, domainName, driverVersion, online,     \
+        agentVersion
 #define SIM_FIELDS_Sfp vendorName, serialNumber, driverStatus, temperatureC, voltage, txBiasMa, txPowerMw, rxPowerMw
-#define SIM_FIELDS_Port enabled, online, fcMode, linkRate, programmedLinkRate, wwnn, wwpn, portId, firmwareRevision, \
-    frameSize, sfpState, executionThrottle, connectionMode, connectionOption, fcipLink, beacon, sfp
+#define SIM_FIELDS_Port                                                                                                \
+    enabled, online, fcMode, linkRate, programmedLinkRate, wwnn, wwpn, portId, firmwareRevision, frameSize, sfpState,  \
+        executionThrottle, connectionMode, connectionOption, fcipLink, beacon, sfp
 #define SIM_FIELDS_SmartAttribute id, name, value, worst, threshold, raw, displayType
-#define SIM_FIELDS_Drive id, vendor, product, revision, serial, sizeBytes, configured, online, pcieSsd, \
-    securityLocked, identityConflict, external, smartStatus, smart
+#define SIM_FIELDS_Drive                                                                                               \
+    id, vendor, product, revision, serial, sizeBytes, configured, online, pcieSsd, securityLocked, identityConflict,   \
+        external, smartStatus, smart
 #define SIM_FIELDS_LogRecord time, severity, source, message
-#define SIM_FIELDS_Health temperatureFront, temperatureRear, temperatureCpu, temperatureNvdimm, temperatureFcChip, \
-    driversLoadedMask, errorMask, dramEccSingleBitErrors, failedPostTest
-#define SIM_FIELDS_Nvdimm present, firmwareVersion, serialNumber, partNumber, temperature, status, superCap, \
-    superCapCharged
+#define SIM_FIELDS_Health                                                                                              \
+    temperatureFront, temperatureRear, temperatureCpu, temperatureNvdimm, temperatureFcChip, driversLoadedMask,        \
+        errorMask, dramEccSingleBitErrors, failedPostTest
+#define SIM_FIELDS_Nvdimm                                                                                              \
+    present, firmwareVersion, serialNumber, partNumber, temperature, status, superCap, superCapCharged
 #define SIM_FIELDS_Fault adapter, operation, code, once, firstError
-#define SIM_FIELDS_Adapter id, host, device, viaDevice, state, productName, symbolicName, serialNumber, hwVersion, \
-    swVersion, ubootVersion, biosVersion, efiVersion, capabilities, password, autoCluster, ports, drives, \
-    cachePoolBytes, health, nvdimm, files, binaryFiles, log, bootTime, restartUntil, restartPolls, statsClearedAt, \
-    needsRestart, memoryScale
+#define SIM_FIELDS_Adapter                                                                                             \
+    id, host, device, viaDevice, state, productName, symbolicName, serialNumber, hwVersion, swVersion, ubootVersion,   \
+        biosVersion, efiVersion, capabilities, password, autoCluster, ports, drives, cachePoolBytes, health, nvdimm,   \
+        files, binaryFiles, log, bootTime, restartUntil, restartPolls, statsClearedAt, needsRestart, memoryScale
 #define SIM_FIELDS_Cluster id, hostClusterType, primary, secondary, members
-#define SIM_FIELDS_Target name, protocol, wwpn, wwnn, portId, iscsiName, chap, ports, online, mapped, internal, \
-    portalMode, maxOutstandingIo, seenBy
+#define SIM_FIELDS_Target                                                                                              \
+    name, protocol, wwpn, wwnn, portId, iscsiName, chap, ports, online, mapped, internal, portalMode,                  \
+        maxOutstandingIo, seenBy
 #define SIM_FIELDS_Initiator protocol, wwpn, wwnn, portId, iscsiName, loggedIn, target, dm, seenBy
 #define SIM_FIELDS_LunPath target, lun, vpGroup, status
 #define SIM_FIELDS_LockedRange start, size
-#define SIM_FIELDS_CacheSettings adapter, mode, profile, maxCacheBytes, minRead, maxRead, minWrite, maxWrite, \
-    lockedRanges, mirrored, mirrorAdapter, mirrorState, mirrorFlag, dirtyBytes, flushStarted, flushPolls, since
+#define SIM_FIELDS_CacheSettings                                                                                       \
+    adapter, mode, profile, maxCacheBytes, minRead, maxRead, minWrite, maxWrite, lockedRanges, mirrored,               \
+        mirrorAdapter, mirrorState, mirrorFlag, dirtyBytes, flushStarted, flushPolls, since
 #define SIM_FIELDS_LocalLun owner, name, readOnly, mirrorType, mirrorPeer
 #define SIM_FIELDS_Reservation type, key
-#define SIM_FIELDS_Lun wwuln, codeSet, type, sizeBytes, vendor, product, revision, serial, page80, online, \
-    extraState, paths, reservation, cached, cache, statsClearedAt, local, localInfo
-#define SIM_FIELDS_San format, version, name, hosts, adapters, clusters, targets, initiators, luns, faults, \
-    nextLocalLun
+#define SIM_FIELDS_Lun                                                                                                 \
+    wwuln, codeSet, type, sizeBytes, vendor, product, revision, serial, page80, online, extraState, paths,             \
+        reservation, cached, cache, statsClearedAt, local, localInfo
+#define SIM_FIELDS_San format, version, name, hosts, adapters, clusters, targets, initiators, luns, faults, nextLocalLun
 
 #define SIM_VISIT_FIELD(field) visit(#field, object.field);
 #define SIM_VISIT_FIELD_PAIR(field) visit(#field, first.field, second.field);
@@ -49,20 +55,26 @@
 // visitFields(visit, object) calls visit("name", object.name) for each field in
 // the order of the list; visitFieldPairs does the same for two objects of one
 // type side by side (a value and the default it is compared with).
-#define SIM_DEFINE_FIELDS(Type, ...)                                                                         \
-    template <class Visit> void visitFields(Visit&& visit, Type& object)                                     \
-    {                                                                                                        \
-        NLOHMANN_JSON_EXPAND(NLOHMANN_JSON_PASTE(SIM_VISIT_FIELD, __VA_ARGS__))                              \
-    }                                                                                                        \
-    template <class Visit> void visitFields(Visit&& visit, const Type& object)                               \
-    {                                                                                                        \
-        NLOHMANN_JSON_EXPAND(NLOHMANN_JSON_PASTE(SIM_VISIT_FIELD, __VA_ARGS__))                              \
-    }                                                                                                        \
-    template <class Visit> void visitFieldPairs(Visit&& visit, const Type& first, const Type& second)        \
-    {                                                                                                        \
-        NLOHMANN_JSON_EXPAND(NLOHMANN_JSON_PASTE(SIM_VISIT_FIELD_PAIR, __VA_ARGS__))                         \
-    }                                                                                                        \
-    inline constexpr bool hasFields(const Type*) { return true; }
+#define SIM_DEFINE_FIELDS(Type, ...)                                                                                   \
+    template <class Visit>                                                                                             \
+    void visitFields(Visit&& visit, Type& object)                                                                      \
+    {                                                                                                                  \
+        NLOHMANN_JSON_EXPAND(NLOHMANN_JSON_PASTE(SIM_VISIT_FIELD, __VA_ARGS__))                                        \
+    }                                                                                                                  \
+    template <class Visit>                                                                                             \
+    void visitFields(Visit&& visit, const Type& object)                                                                \
+    {                                                                                                                  \
+        NLOHMANN_JSON_EXPAND(NLOHMANN_JSON_PASTE(SIM_VISIT_FIELD, __VA_ARGS__))                                        \
+    }                                                                                                                  \
+    template <class Visit>                                                                                             \
+    void visitFieldPairs(Visit&& visit, const Type& first, const Type& second)                                         \
+    {                                                                                                                  \
+        NLOHMANN_JSON_EXPAND(NLOHMANN_JSON_PASTE(SIM_VISIT_FIELD_PAIR, __VA_ARGS__))                                   \
+    }                                                                                                                  \
+    inline constexpr bool hasFields(const Type*)                                                                       \
+    {                                                                                                                  \
+        return true;                                                                                                   \
+    }
 
 namespace sim {
 
@@ -89,6 +101,9 @@ SIM_DEFINE_FIELDS(San, SIM_FIELDS_San)
 
 // True for the structs listed above, which are written as JSON objects.
 template <class T>
-concept FieldStruct = requires(const T* p) { hasFields(p); };
+concept FieldStruct = requires(const T* p)
+{
+    hasFields(p);
+};
 
 } // namespace sim

@@ -34,17 +34,24 @@ bool parseAdapterId(const std::string& text, u64& out)
     u64 value = 0;
     for (char c : digits) {
         int d;
-        if (c >= '0' && c <= '9') d = c - '0';
-        else if (c >= 'a' && c <= 'f') d = c - 'a' + 10;
-        else if (c >= 'A' && c <= 'F') d = c - 'A' + 10;
-        else return false;
+        if (c >= '0' && c <= '9')
+            d = c - '0';
+        else if (c >= 'a' && c <= 'f')
+            d = c - 'a' + 10;
+        else if (c >= 'A' && c <= 'F')
+            d = c - 'A' + 10;
+        else
+            return false;
         value = value * 16 + static_cast<u64>(d);
     }
     out = value;
     return true;
 }
 
-void to_json(nlohmann::json& j, const AdapterId& id) { j = adapterIdText(id.value); }
+void to_json(nlohmann::json& j, const AdapterId& id)
+{
+    j = adapterIdText(id.value);
+}
 
 void from_json(const nlohmann::json& j, AdapterId& id)
 {
@@ -83,9 +90,9 @@ namespace {
 const nlohmann::json& elementDefaults()
 {
     static const nlohmann::json defaults = {
-        {"hosts", Host{}}, {"adapters", Adapter{}}, {"ports", Port{}}, {"drives", Drive{}},
-        {"smart", SmartAttribute{}}, {"log", LogRecord{}}, {"clusters", Cluster{}}, {"targets", Target{}},
-        {"initiators", Initiator{}}, {"luns", Lun{}}, {"paths", LunPath{}}, {"lockedRanges", LockedRange{}},
+        {"hosts", Host{}},           {"adapters", Adapter{}}, {"ports", Port{}},       {"drives", Drive{}},
+        {"smart", SmartAttribute{}}, {"log", LogRecord{}},    {"clusters", Cluster{}}, {"targets", Target{}},
+        {"initiators", Initiator{}}, {"luns", Lun{}},         {"paths", LunPath{}},    {"lockedRanges", LockedRange{}},
         {"faults", Fault{}},
     };
     return defaults;
@@ -122,7 +129,7 @@ std::string generalScenarioToText(const San& san)
 {
     nlohmann::json j = san;
     nlohmann::json defaults = San{};
-    defaults.erase("format");   // the header stays, for readers to know the file
+    defaults.erase("format"); // the header stays, for readers to know the file
     defaults.erase("version");
     pruneDefaults(j, defaults);
     return j.dump(1) + "\n";
@@ -134,8 +141,7 @@ namespace {
 // was read with what it reads back as, and name the first stray key. Every
 // command reads the state, so the walk builds no text unless it reports:
 // `path` grows and shrinks in place, and leaves are not visited.
-bool findUnknownKey(const nlohmann::json& given, const nlohmann::json& known, std::string& path,
-                    std::string& error)
+bool findUnknownKey(const nlohmann::json& given, const nlohmann::json& known, std::string& path, std::string& error)
 {
     auto visit = [&](const nlohmann::json& g, const nlohmann::json& k, const std::string& step) {
         if (!g.is_structured() || !k.is_structured())
@@ -181,8 +187,8 @@ bool checkHeader(const nlohmann::json& j, std::string& error)
     }
     int version = j["version"].get<int>();
     if (version > kScenarioVersion || version < 1) {
-        error = "format version " + std::to_string(version) + " is not supported (this simulator reads version "
-                + std::to_string(kScenarioVersion) + "); it may come from a newer hbasim";
+        error = "format version " + std::to_string(version) + " is not supported (this simulator reads version " +
+            std::to_string(kScenarioVersion) + "); it may come from a newer hbasim";
         return false;
     }
     return true;
@@ -369,7 +375,8 @@ bool validateLuns(const San& san, std::string& error)
             if (!targets.count(p.target))
                 return fail(error, name() + " has a path through unknown target \"" + p.target + "\"");
             if (!paths.insert({p.target, p.lun, p.vpGroup}).second)
-                return fail(error, name() + " reuses LUN number " + std::to_string(p.lun) + " of target \"" + p.target + "\"");
+                return fail(error,
+                            name() + " reuses LUN number " + std::to_string(p.lun) + " of target \"" + p.target + "\"");
         }
         if (l.cached && !ids.count(l.cache.adapter.value))
             return fail(error, name() + " is cached on unknown adapter " + adapterIdText(l.cache.adapter.value));

@@ -27,17 +27,21 @@ size_t utf8SequenceLength(const unsigned char* p, const unsigned char* end)
 {
     unsigned char lead = p[0];
     size_t length;
-    unsigned char low = 0x80, high = 0xBF;     // range of the second byte
+    unsigned char low = 0x80, high = 0xBF; // range of the second byte
     if (lead >= 0xC2 && lead <= 0xDF)
         length = 2;
     else if (lead >= 0xE0 && lead <= 0xEF) {
         length = 3;
-        if (lead == 0xE0) low = 0xA0;
-        if (lead == 0xED) high = 0x9F;
+        if (lead == 0xE0)
+            low = 0xA0;
+        if (lead == 0xED)
+            high = 0x9F;
     } else if (lead >= 0xF0 && lead <= 0xF4) {
         length = 4;
-        if (lead == 0xF0) low = 0x90;
-        if (lead == 0xF4) high = 0x8F;
+        if (lead == 0xF0)
+            low = 0x90;
+        if (lead == 0xF4)
+            high = 0x8F;
     } else
         return 0;
     if (static_cast<size_t>(end - p) < length || p[1] < low || p[1] > high)
@@ -165,15 +169,17 @@ public:
         };
         std::array<Slot, 64> slots;
         size_t count = 0;
-        visitFieldPairs([&](const char* name, const auto& v, const auto& d) {
-            using F = std::remove_cvref_t<decltype(v)>;
-            bool header = keepHeader && (std::string_view(name) == "format" || std::string_view(name) == "version");
-            if (count == slots.size()) {
-                ok_ = false;    // a struct with more fields than slots: let the general path write it
-                return;
-            }
-            slots[count++] = Slot{&v, &d, &Writer::emitErased<F>, header || !same(v, d)};
-        }, value, defaults);
+        visitFieldPairs(
+            [&](const char* name, const auto& v, const auto& d) {
+                using F = std::remove_cvref_t<decltype(v)>;
+                bool header = keepHeader && (std::string_view(name) == "format" || std::string_view(name) == "version");
+                if (count == slots.size()) {
+                    ok_ = false; // a struct with more fields than slots: let the general path write it
+                    return;
+                }
+                slots[count++] = Slot{&v, &d, &Writer::emitErased<F>, header || !same(v, d)};
+            },
+            value, defaults);
         const FieldOrder& order = sortedFieldOrder<T>();
         if (count != order.positions.size())
             return;
@@ -186,7 +192,7 @@ public:
             first = false;
             newline(depth + 1);
             out_ += '"';
-            out_ += order.names[position];     // field names need no escapes
+            out_ += order.names[position]; // field names need no escapes
             out_ += "\": ";
             slot.emit(*this, slot.value, slot.defaults, depth + 1);
         }
@@ -260,7 +266,7 @@ private:
     }
 
     template <class T>
-        requires std::is_integral_v<T>
+    requires std::is_integral_v<T>
     void emit(T number, T, int)
     {
         std::array<char, 24> buffer;
@@ -317,13 +323,27 @@ private:
                 continue;
             }
             switch (c) {
-            case '"': out_ += "\\\""; break;
-            case '\\': out_ += "\\\\"; break;
-            case '\b': out_ += "\\b"; break;
-            case '\t': out_ += "\\t"; break;
-            case '\n': out_ += "\\n"; break;
-            case '\f': out_ += "\\f"; break;
-            case '\r': out_ += "\\r"; break;
+            case '"':
+                out_ += "\\\"";
+                break;
+            case '\\':
+                out_ += "\\\\";
+                break;
+            case '\b':
+                out_ += "\\b";
+                break;
+            case '\t':
+                out_ += "\\t";
+                break;
+            case '\n':
+                out_ += "\\n";
+                break;
+            case '\f':
+                out_ += "\\f";
+                break;
+            case '\r':
+                out_ += "\\r";
+                break;
             default:
                 out_ += "\\u00";
                 out_ += hex[c >> 4];
@@ -384,15 +404,17 @@ public:
                 return false;
             bool found = false, ok = false;
             unsigned position = 0;
-            visitFields([&](const char* name, auto& field) {
-                if (!found && key == name && position < 64) {   // one bit per field
-                    found = true;
-                    std::uint64_t bit = std::uint64_t{1} << position;
-                    ok = !(seen & bit) && value(field);
-                    seen |= bit;
-                }
-                ++position;
-            }, object);
+            visitFields(
+                [&](const char* name, auto& field) {
+                    if (!found && key == name && position < 64) { // one bit per field
+                        found = true;
+                        std::uint64_t bit = std::uint64_t{1} << position;
+                        ok = !(seen & bit) && value(field);
+                        seen |= bit;
+                    }
+                    ++position;
+                },
+                object);
             if (!ok)
                 return false;
         } while (take(','));
@@ -453,7 +475,7 @@ public:
     }
 
     template <class T>
-        requires std::is_integral_v<T>
+    requires std::is_integral_v<T>
     bool value(T& number)
     {
         Number n;
@@ -506,8 +528,8 @@ public:
         text.clear();
         for (;;) {
             const char* run = p_;
-            while (run < end_ && static_cast<unsigned char>(*run) >= 0x20 && static_cast<unsigned char>(*run) < 0x80
-                   && *run != '"' && *run != '\\')
+            while (run < end_ && static_cast<unsigned char>(*run) >= 0x20 && static_cast<unsigned char>(*run) < 0x80 &&
+                   *run != '"' && *run != '\\')
                 ++run;
             text.append(p_, run);
             p_ = run;
@@ -636,9 +658,12 @@ private:
 
     static int hexValue(char c)
     {
-        if (c >= '0' && c <= '9') return c - '0';
-        if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-        if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+        if (c >= '0' && c <= '9')
+            return c - '0';
+        if (c >= 'a' && c <= 'f')
+            return c - 'a' + 10;
+        if (c >= 'A' && c <= 'F')
+            return c - 'A' + 10;
         return -1;
     }
 
@@ -664,16 +689,34 @@ private:
             return false;
         char c = *p_++;
         switch (c) {
-        case '"': text += '"'; return true;
-        case '\\': text += '\\'; return true;
-        case '/': text += '/'; return true;
-        case 'b': text += '\b'; return true;
-        case 'f': text += '\f'; return true;
-        case 'n': text += '\n'; return true;
-        case 'r': text += '\r'; return true;
-        case 't': text += '\t'; return true;
-        case 'u': break;
-        default: return false;
+        case '"':
+            text += '"';
+            return true;
+        case '\\':
+            text += '\\';
+            return true;
+        case '/':
+            text += '/';
+            return true;
+        case 'b':
+            text += '\b';
+            return true;
+        case 'f':
+            text += '\f';
+            return true;
+        case 'n':
+            text += '\n';
+            return true;
+        case 'r':
+            text += '\r';
+            return true;
+        case 't':
+            text += '\t';
+            return true;
+        case 'u':
+            break;
+        default:
+            return false;
         }
         unsigned code;
         if (!hex4(code) || (code >= 0xDC00 && code <= 0xDFFF))
@@ -716,11 +759,13 @@ std::uint64_t fieldBit(std::string_view wanted)
 {
     std::uint64_t bit = 0;
     unsigned position = 0;
-    visitFields([&](const char* name, const auto&) {
-        if (wanted == name)
-            bit = std::uint64_t{1} << position;
-        ++position;
-    }, elementDefault<T>());
+    visitFields(
+        [&](const char* name, const auto&) {
+            if (wanted == name)
+                bit = std::uint64_t{1} << position;
+            ++position;
+        },
+        elementDefault<T>());
     return bit;
 }
 
@@ -729,8 +774,8 @@ std::uint64_t fieldBit(std::string_view wanted)
 bool headerAccepted(const San& san, std::uint64_t seen)
 {
     static const std::uint64_t required = fieldBit<San>("format") | fieldBit<San>("version");
-    return (seen & required) == required && san.format == "hbasim-scenario" && san.version >= 1
-           && san.version <= kScenarioVersion;
+    return (seen & required) == required && san.format == "hbasim-scenario" && san.version >= 1 &&
+        san.version <= kScenarioVersion;
 }
 
 } // namespace

@@ -37,13 +37,29 @@ struct Perturb {
 
     bool pick() { return counter++ % every == 0; }
 
-    void operator()(const char*, bool& flag) { if (pick()) flag = !flag; }
-    void operator()(const char*, double& number) { if (pick()) number = number * 1.5 + 0.1 * seed + 1e-7; }
-    void operator()(const char*, std::string& text) { if (pick()) text = oddText(seed); }
-    void operator()(const char*, AdapterId& id) { if (pick()) id.value += 0xABCDEF0123ull + static_cast<u64>(seed); }
+    void operator()(const char*, bool& flag)
+    {
+        if (pick())
+            flag = !flag;
+    }
+    void operator()(const char*, double& number)
+    {
+        if (pick())
+            number = number * 1.5 + 0.1 * seed + 1e-7;
+    }
+    void operator()(const char*, std::string& text)
+    {
+        if (pick())
+            text = oddText(seed);
+    }
+    void operator()(const char*, AdapterId& id)
+    {
+        if (pick())
+            id.value += 0xABCDEF0123ull + static_cast<u64>(seed);
+    }
 
     template <class T>
-        requires std::is_integral_v<T>
+    requires std::is_integral_v<T>
     void operator()(const char*, T& number)
     {
         if (pick())
@@ -242,7 +258,8 @@ TEST(ScenarioCodecTest, DeclinedTextsGetTheGeneralResult)
         R"({"format":1,"version":1})",
         R"({"version":1})",
         R"({"format":"hbasim-scenario"})",
-        "\xef\xbb\xbf" R"({"format":"hbasim-scenario","version":1})",
+        "\xef\xbb\xbf"
+        R"({"format":"hbasim-scenario","version":1})",
         R"({"format":"hbasim-scenario","version":1} x)",
         R"({"format":"hbasim-scenario","version":1}{})",
         R"(/* c */{"format":"hbasim-scenario","version":1})",
@@ -293,7 +310,7 @@ TEST(ScenarioCodecTest, DeclinedTextsGetTheGeneralResult)
         San fast;
         bool validFast = codec::read(text, fast);
         std::string ignored;
-        if (validFast) {  // only texts that break a rule of the model get this far
+        if (validFast) { // only texts that break a rule of the model get this far
             EXPECT_FALSE(validateSan(fast, ignored)) << text;
         }
         San viaEntry, general;
@@ -315,8 +332,8 @@ TEST(ScenarioCodecTest, DeclinedTextsStillGetTheirMessages)
     EXPECT_FALSE(scenarioFromText(R"({"format":"hbasim-scenario","version":1,"hosts":[{"agent":"","nodeNmae":"x"}]})",
                                   "f", san, error));
     EXPECT_EQ(error, "f: unknown field \"/hosts/0/nodeNmae\"");
-    EXPECT_FALSE(scenarioFromText(R"({"format":"hbasim-scenario","version":1,"hosts":[{}],"adapters":[{},{}]})",
-                                  "f", san, error));
+    EXPECT_FALSE(scenarioFromText(R"({"format":"hbasim-scenario","version":1,"hosts":[{}],"adapters":[{},{}]})", "f",
+                                  san, error));
     EXPECT_EQ(error, "f: adapter 0 is defined twice");
     // Accepted by the general path as always, though not by the fast one.
     ASSERT_TRUE(scenarioFromText(R"({"format":"hbasim-scenario","version":1,"nextLocalLun":2.0})", "f", san, error));
@@ -329,8 +346,9 @@ TEST(ScenarioCodecTest, DeclinedTextsStillGetTheirMessages)
 // declines must still get the general path's verdict and message.
 TEST(ScenarioCodecTest, DamagedTextsGetTheGeneralVerdict)
 {
-    const std::string pieces[] = {"{", "}", "[", "]", ",", ":", "\"", "\\", "0", "-", "1e9", "true", "null",
-                                  " ", "\"name\"", "\"files\":{}", "\xc3", "\xff", "\\u00e9", "2.5"};
+    const std::string pieces[] = {"{",    "}",    "[",       "]",    ",",    ":", "\"",       "\\",
+                                  "0",    "-",    "1e9",     "true", "null", " ", "\"name\"", "\"files\":{}",
+                                  "\xc3", "\xff", "\\u00e9", "2.5"};
     std::mt19937 random(20261122);
     int accepted = 0;
     for (const San& san : {defaultSan(), generateSan(2, 6, 2), perturbed(2, 3)}) {
@@ -340,9 +358,15 @@ TEST(ScenarioCodecTest, DamagedTextsGetTheGeneralVerdict)
             for (int cut = 1 + static_cast<int>(random() % 3); cut > 0; --cut) {
                 size_t at = random() % text.size();
                 switch (random() % 3) {
-                case 0: text.erase(at, 1 + random() % 8); break;
-                case 1: text.insert(at, pieces[random() % std::size(pieces)]); break;
-                default: text[at] = static_cast<char>(random() % 256); break;
+                case 0:
+                    text.erase(at, 1 + random() % 8);
+                    break;
+                case 1:
+                    text.insert(at, pieces[random() % std::size(pieces)]);
+                    break;
+                default:
+                    text[at] = static_cast<char>(random() % 256);
+                    break;
                 }
             }
             San fast, general;

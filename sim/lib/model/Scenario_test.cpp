@@ -47,8 +47,8 @@ TEST(ScenarioTest, MisspeltFieldIsNamed)
 {
     San san;
     std::string error;
-    EXPECT_FALSE(scenarioFromText(
-        R"({"format":"hbasim-scenario","version":1,"hosts":[{"agent":"","nodeNmae":"x"}]})", "f", san, error));
+    EXPECT_FALSE(scenarioFromText(R"({"format":"hbasim-scenario","version":1,"hosts":[{"agent":"","nodeNmae":"x"}]})",
+                                  "f", san, error));
     EXPECT_EQ(error, "f: unknown field \"/hosts/0/nodeNmae\"");
 }
 
@@ -117,37 +117,54 @@ TEST(ScenarioTest, EveryRuleOfTheModelIsNamed)
     const std::string second = "adapter " + adapterIdText(defaultSan().adapters[1].id.value);
     const std::vector<Case> cases = {
         {[](San& s) { s.hosts.push_back(s.hosts[0]); }, "host \"\" is defined twice"},
-        {[](San& s) { s.adapters[0].host = "127.0.9.9"; },
-         first + " names host \"127.0.9.9\", which is not defined"},
-        {[](San& s) { s.adapters[1].device = s.adapters[0].device; },
-         second + " uses device 0 twice on its host"},
+        {[](San& s) { s.adapters[0].host = "127.0.9.9"; }, first + " names host \"127.0.9.9\", which is not defined"},
+        {[](San& s) { s.adapters[1].device = s.adapters[0].device; }, second + " uses device 0 twice on its host"},
         {[](San& s) { s.adapters[0].state = 3; }, first + " has state 3 (1 online, 2 offline)"},
         {[](San& s) { s.adapters[0].ports.resize(5); }, first + " has more than 4 ports"},
         {[](San& s) { s.adapters[0].drives.resize(65); }, first + " has more than 64 drives"},
-        {[](San& s) { s.adapters[0].drives.resize(1); s.adapters[0].drives[0].id = "d0"; s.adapters[0].drives[0].smart.resize(33); },
+        {[](San& s) {
+             s.adapters[0].drives.resize(1);
+             s.adapters[0].drives[0].id = "d0";
+             s.adapters[0].drives[0].smart.resize(33);
+         },
          first + " drive d0 has more than 32 SMART attributes"},
         {[](San& s) { s.adapters[0].binaryFiles["fw.bin"] = "not base64"; },
          first + " file \"fw.bin\" is not valid base64"},
-        {[](San& s) { s.adapters[0].binaryFiles["fw.bin"] = "Zh=="; },
-         first + " file \"fw.bin\" is not valid base64"},
-        {[](San& s) { s.adapters[0].files["fw.bin"] = "text"; s.adapters[0].binaryFiles["fw.bin"] = "Zg=="; },
+        {[](San& s) { s.adapters[0].binaryFiles["fw.bin"] = "Zh=="; }, first + " file \"fw.bin\" is not valid base64"},
+        {[](San& s) {
+             s.adapters[0].files["fw.bin"] = "text";
+             s.adapters[0].binaryFiles["fw.bin"] = "Zg==";
+         },
          first + " file \"fw.bin\" is both in \"files\" and in \"binaryFiles\""},
-        {[](San& s) { s.clusters.push_back(s.clusters[0]); s.clusters.back().members.clear(); },
+        {[](San& s) {
+             s.clusters.push_back(s.clusters[0]);
+             s.clusters.back().members.clear();
+         },
          "cluster \"" + defaultSan().clusters[0].id + "\" is defined twice"},
         {[](San& s) { s.clusters[0].members.push_back(AdapterId{0xABC}); },
          "cluster \"" + defaultSan().clusters[0].id + "\" names unknown adapter ABC"},
-        {[](San& s) { s.targets.push_back(s.targets[0]); }, "target \"" + defaultSan().targets[0].name + "\" is defined twice"},
+        {[](San& s) { s.targets.push_back(s.targets[0]); },
+         "target \"" + defaultSan().targets[0].name + "\" is defined twice"},
         {[](San& s) { s.luns[0].wwuln.clear(); }, "a LUN has no wwuln"},
-        {[](San& s) { s.luns[1].wwuln = s.luns[0].wwuln; }, "LUN \"" + defaultSan().luns[0].wwuln + "\" is defined twice"},
-        {[](San& s) { s.luns[0].codeSet = 3; }, "LUN \"" + defaultSan().luns[0].wwuln + "\" has codeSet 3 (1 binary, 2 text)"},
+        {[](San& s) { s.luns[1].wwuln = s.luns[0].wwuln; },
+         "LUN \"" + defaultSan().luns[0].wwuln + "\" is defined twice"},
+        {[](San& s) { s.luns[0].codeSet = 3; },
+         "LUN \"" + defaultSan().luns[0].wwuln + "\" has codeSet 3 (1 binary, 2 text)"},
         {[](San& s) { s.luns[1].paths.push_back(s.luns[0].paths[0]); },
-         "LUN \"" + defaultSan().luns[1].wwuln + "\" reuses LUN number " + std::to_string(defaultSan().luns[0].paths[0].lun)
-             + " of target \"" + defaultSan().luns[0].paths[0].target + "\""},
-        {[](San& s) { s.luns[0].cached = true; s.luns[0].cache.adapter = AdapterId{0xABC}; },
+         "LUN \"" + defaultSan().luns[1].wwuln + "\" reuses LUN number " +
+             std::to_string(defaultSan().luns[0].paths[0].lun) + " of target \"" +
+             defaultSan().luns[0].paths[0].target + "\""},
+        {[](San& s) {
+             s.luns[0].cached = true;
+             s.luns[0].cache.adapter = AdapterId{0xABC};
+         },
          "LUN \"" + defaultSan().luns[0].wwuln + "\" is cached on unknown adapter ABC"},
         {[](San& s) { s.luns[0].cache.lockedRanges.resize(17); },
          "LUN \"" + defaultSan().luns[0].wwuln + "\" has more than 16 locked ranges"},
-        {[](San& s) { s.luns[0].local = true; s.luns[0].localInfo.owner = AdapterId{0xABC}; },
+        {[](San& s) {
+             s.luns[0].local = true;
+             s.luns[0].localInfo.owner = AdapterId{0xABC};
+         },
          "LUN \"" + defaultSan().luns[0].wwuln + "\" belongs to unknown adapter ABC"},
     };
     std::string error;

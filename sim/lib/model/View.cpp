@@ -66,9 +66,9 @@ std::vector<int> discoveryPorts(const San& san, const Adapter& a, const Target& 
 {
     (void)san;
     std::vector<int> ports;
-    bool seen = t.seenBy.empty() ? !t.internal
-                                 : std::any_of(t.seenBy.begin(), t.seenBy.end(),
-                                               [&](const AdapterId& id) { return id == a.id; });
+    bool seen = t.seenBy.empty()
+        ? !t.internal
+        : std::any_of(t.seenBy.begin(), t.seenBy.end(), [&](const AdapterId& id) { return id == a.id; });
     if (!seen)
         return ports;
     for (int p : t.ports) {
@@ -198,15 +198,15 @@ u32 lunStateBits(const San& san, const Lun& lun, const Adapter& viewer)
     u32 bits = lun.extraState;
     if (lun.online)
         bits |= 1u << 0;
-    bits |= 1u << 11;                       // mapped
+    bits |= 1u << 11; // mapped
     if (lun.local) {
-        bits |= 1u << 18;                   // storage media SSD
+        bits |= 1u << 18; // storage media SSD
         bits |= lun.localInfo.owner == viewer.id ? 1u << 14 : 1u << 15;
         if (lun.localInfo.mirrorType == 2)
             bits |= 1u << 22;
     }
     if (lun.cached && lun.cache.mode != 6)
-        bits |= 1u << 21;                   // cache ready
+        bits |= 1u << 21; // cache ready
     return bits;
 }
 

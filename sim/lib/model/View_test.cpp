@@ -75,9 +75,9 @@ TEST(PathIndexTest, PathsAreSortedByNumberThenGroupAndUnknownTargetsLeftOut)
     PathIndex index(san);
     const std::vector<VisiblePath>& paths = index.pathsOf(0);
     ASSERT_EQ(paths.size(), 3u);
-    EXPECT_EQ(paths[0].path, &san.luns[1].paths[1]);   // number 2
-    EXPECT_EQ(paths[1].path, &san.luns[1].paths[0]);   // number 5, group 1
-    EXPECT_EQ(paths[2].path, &san.luns[0].paths[0]);   // number 5, group 2
+    EXPECT_EQ(paths[0].path, &san.luns[1].paths[1]); // number 2
+    EXPECT_EQ(paths[1].path, &san.luns[1].paths[0]); // number 5, group 1
+    EXPECT_EQ(paths[2].path, &san.luns[0].paths[0]); // number 5, group 2
     expectSamePaths(walkOfEachTarget(san, san.adapters[0]), visiblePaths(san, index, san.adapters[0]));
 }
 

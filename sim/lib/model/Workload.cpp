@@ -92,8 +92,8 @@ AdapterCacheFigures adapterCacheFigures(const San& san, const Adapter& a, long l
     }
     f.usedCapacity = std::min(f.usedCapacity, f.totalCapacity);
     u32 used = percentOf(f.usedCapacity, f.totalCapacity);
-    f.usedPercentA = used / 2;                  // SSD share
-    f.usedPercentB = used - used / 2;           // RAM share
+    f.usedPercentA = used / 2;        // SSD share
+    f.usedPercentB = used - used / 2; // RAM share
     f.readLoadPercent = percentOf(f.readLoadHits, f.readData);
     f.writeLoadPercent = percentOf(f.writeLoadHits, f.readData);
     return f;
@@ -111,7 +111,7 @@ std::array<u32, 26> hostPcieFigures(const San& san, const Adapter& a, long long 
         writeBlocks += load.writeBlocks;
     }
     u64 t = std::max<u64>(1, elapsedSince(a.statsClearedAt, now));
-    u64 wobble = static_cast<u64>(now) % 7;     // figures of the moment move a little
+    u64 wobble = static_cast<u64>(now) % 7; // figures of the moment move a little
     v[0] = v[1] = 1000;
     v[2] = static_cast<u32>(reads);
     v[3] = static_cast<u32>(readBlocks * 512);
@@ -207,7 +207,7 @@ std::vector<std::pair<std::string, long long>> cacheCounters(const San& san, con
     c.push_back({"SSD WriteBypassSize", ll(writes / 30)});
     c.push_back({"SSD WriteBypassMem", ll(writes / 300)});
     c.push_back({"WriteIos Total", ll(writes)});
-    c.push_back({"Temperature CPU", 58});   // not named by the CLI; appears in the full CSV
+    c.push_back({"Temperature CPU", 58}); // not named by the CLI; appears in the full CSV
     return c;
 }
 

@@ -17,7 +17,7 @@ struct LunLoad {
     u64 readCount = 0, writeCount = 0, readBlocks = 0, writeBlocks = 0;
     u64 readHitBytes = 0, writeHitBytes = 0;
     u64 cleanBytes = 0, dirtyBytes = 0, lockedBytes = 0;
-    u32 readHitPercent = 0, writeHitPercent = 0;    // hundredths
+    u32 readHitPercent = 0, writeHitPercent = 0; // hundredths
 };
 
 LunLoad lunLoad(const San& san, const Lun& lun, const Adapter& viewer, long long now);

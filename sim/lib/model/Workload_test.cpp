@@ -36,16 +36,40 @@ TEST_F(WorkloadTest, CountersCarryEveryNameTheStatisticsLookFor)
     for (const char* stream : {"Host Reads", "Host Writes", "Read Flush", "Write Flush"})
         for (const char* end : {" IOs", " Min", " Max", " Avg", " IOPs", " KBs"})
             EXPECT_TRUE(names.count(std::string(stream) + end)) << stream << end;
-    for (const char* name :
-         {"UpTime", "Cache Pool Max MB", "Cache Pool Used MB", "Cache Pool Dirty MB", "Host Data Read MB",
-          "Host Data Write MB", "Host CACHE Writes MB", "Host CACHE Writes (%)", "CACHE Read Hits MB RL", "RL (%)",
-          "CACHE Read Hits MB WL", "WL (%)", "CACHE Read Hits MB Total", "Total (%)", "RAM ReadCacheReadHits",
-          "RAM ReadCacheReadHits (%)", "SSD ReadCacheReadHits", "SSD ReadCacheReadHits (%)",
-          "SSD ReadCacheOWReadHits", "SSD ReadCacheOWReadHits (%)", "SSD WriteCacheReadHits",
-          "SSD WriteCacheReadHits (%)", "SSD ReadCacheFlushes", "SSD ReadBypassSize", "SSD ReadBypassMem",
-          "ReadIos Total", "SSD WriteCacheWrites", "Cache Breakup Write IOs", "SSD ReadCacheOverwrites",
-          "SSD WriteCacheOverwrites", "SSD ReadCacheFreed", "SSD WriteBypassSize", "SSD WriteBypassMem",
-          "WriteIos Total"})
+    for (const char* name : {"UpTime",
+                             "Cache Pool Max MB",
+                             "Cache Pool Used MB",
+                             "Cache Pool Dirty MB",
+                             "Host Data Read MB",
+                             "Host Data Write MB",
+                             "Host CACHE Writes MB",
+                             "Host CACHE Writes (%)",
+                             "CACHE Read Hits MB RL",
+                             "RL (%)",
+                             "CACHE Read Hits MB WL",
+                             "WL (%)",
+                             "CACHE Read Hits MB Total",
+                             "Total (%)",
+                             "RAM ReadCacheReadHits",
+                             "RAM ReadCacheReadHits (%)",
+                             "SSD ReadCacheReadHits",
+                             "SSD ReadCacheReadHits (%)",
+                             "SSD ReadCacheOWReadHits",
+                             "SSD ReadCacheOWReadHits (%)",
+                             "SSD WriteCacheReadHits",
+                             "SSD WriteCacheReadHits (%)",
+                             "SSD ReadCacheFlushes",
+                             "SSD ReadBypassSize",
+                             "SSD ReadBypassMem",
+                             "ReadIos Total",
+                             "SSD WriteCacheWrites",
+                             "Cache Breakup Write IOs",
+                             "SSD ReadCacheOverwrites",
+                             "SSD WriteCacheOverwrites",
+                             "SSD ReadCacheFreed",
+                             "SSD WriteBypassSize",
+                             "SSD WriteBypassMem",
+                             "WriteIos Total"})
         EXPECT_TRUE(names.count(name)) << name;
     for (const std::string& name : names)
         EXPECT_LE(name.size(), 32u) << name;

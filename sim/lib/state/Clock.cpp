@@ -17,7 +17,7 @@ bool pinnedTime(long long& out)
     errno = 0;
     long long value = std::strtoll(text, &end, 10);
     if (errno != 0 || *end != '\0' || value < 0)
-        return false;   // an unusable value falls back to the wall clock
+        return false; // an unusable value falls back to the wall clock
     out = value;
     return true;
 }

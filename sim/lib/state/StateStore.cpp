@@ -39,7 +39,7 @@ public:
     ~FileLock()
     {
         if (fd_ >= 0)
-            ::close(fd_);   // closing releases the lock
+            ::close(fd_); // closing releases the lock
     }
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
@@ -89,8 +89,8 @@ namespace {
 
 std::string stampOf(const struct stat& st)
 {
-    return std::to_string(st.st_ino) + ":" + std::to_string(st.st_size) + ":" + std::to_string(st.st_mtim.tv_sec)
-           + "." + std::to_string(st.st_mtim.tv_nsec);
+    return std::to_string(st.st_ino) + ":" + std::to_string(st.st_size) + ":" + std::to_string(st.st_mtim.tv_sec) +
+        "." + std::to_string(st.st_mtim.tv_nsec);
 }
 
 // Reads a whole file; `stamp`, when given, gets the stamp of the very file
@@ -210,7 +210,7 @@ bool StateStore::ensureExists(std::string& error)
     if (!lockState(path_, lock, error))
         return false;
     if (fileExists(path_))
-        return true;    // another process made it while we waited
+        return true; // another process made it while we waited
     return writeFile(defaultSan(), error);
 }
 

@@ -45,8 +45,7 @@ public:
     // stamp taken under the lock, so that it can serve as the next snapshot.
     // `written` is left alone when nothing was written, or when the written
     // SAN breaks a rule of the model (a fresh read would refuse it).
-    bool update(const std::function<bool(San&)>& change, std::string& error, const Snapshot* base,
-                Snapshot* written);
+    bool update(const std::function<bool(San&)>& change, std::string& error, const Snapshot* base, Snapshot* written);
 
     // Replace the state with `san` (reset).
     bool replace(const San& san, std::string& error);

@@ -79,9 +79,19 @@ TEST_F(StateStoreTest, RefusedChangeLeavesTheFileUntouched)
     San san;
     ASSERT_TRUE(store.read(san, error));
     std::string before = store.stamp();
-    ASSERT_TRUE(store.update([](San& s) { s.name = "changed"; return false; }, error));
+    ASSERT_TRUE(store.update(
+        [](San& s) {
+            s.name = "changed";
+            return false;
+        },
+        error));
     EXPECT_EQ(store.stamp(), before);
-    ASSERT_TRUE(store.update([](San& s) { s.name = "changed"; return true; }, error));
+    ASSERT_TRUE(store.update(
+        [](San& s) {
+            s.name = "changed";
+            return true;
+        },
+        error));
     ASSERT_TRUE(store.read(san, error));
     EXPECT_EQ(san.name, "changed");
 }
@@ -108,10 +118,16 @@ TEST_F(StateStoreTest, ChangeStartsFromTheSnapshotWhileTheFileHoldsItsText)
     const u64 before = base.san.nextLocalLun;
     std::string seen;
     Snapshot written;
-    ASSERT_TRUE(store.update([&](San& san) { seen = san.name; san.nextLocalLun = 77; return true; }, error, &base,
-                             &written)) << error;
+    ASSERT_TRUE(store.update(
+        [&](San& san) {
+            seen = san.name;
+            san.nextLocalLun = 77;
+            return true;
+        },
+        error, &base, &written))
+        << error;
     EXPECT_EQ(seen, "from the snapshot");
-    EXPECT_EQ(base.san.nextLocalLun, before);   // the caller's snapshot is left as it was
+    EXPECT_EQ(base.san.nextLocalLun, before); // the caller's snapshot is left as it was
     EXPECT_EQ(written.text, fileText(path));
     EXPECT_EQ(written.stamp, store.stamp());
     EXPECT_EQ(written.san.nextLocalLun, 77u);
@@ -125,10 +141,21 @@ TEST_F(StateStoreTest, ChangeReadsTheFileWhenItNoLongerHoldsTheSnapshotText)
     std::string error;
     ASSERT_TRUE(store.read(base, error)) << error;
     base.san.name = "from the snapshot";
-    ASSERT_TRUE(StateStore(path).update([](San& san) { san.name = "by another process"; return true; }, error));
+    ASSERT_TRUE(StateStore(path).update(
+        [](San& san) {
+            san.name = "by another process";
+            return true;
+        },
+        error));
     std::string seen;
     Snapshot written;
-    ASSERT_TRUE(store.update([&](San& san) { seen = san.name; return true; }, error, &base, &written)) << error;
+    ASSERT_TRUE(store.update(
+        [&](San& san) {
+            seen = san.name;
+            return true;
+        },
+        error, &base, &written))
+        << error;
     EXPECT_EQ(seen, "by another process");
     EXPECT_EQ(written.san.name, "by another process");
 
@@ -138,7 +165,13 @@ TEST_F(StateStoreTest, ChangeReadsTheFileWhenItNoLongerHoldsTheSnapshotText)
     std::string text = fileText(path);
     text.replace(text.find("by another process"), 18, "by another PROCESS");
     ASSERT_TRUE(writeTextFileAtomically(path, text, error)) << error;
-    ASSERT_TRUE(store.update([&](San& san) { seen = san.name; return false; }, error, &base, nullptr)) << error;
+    ASSERT_TRUE(store.update(
+        [&](San& san) {
+            seen = san.name;
+            return false;
+        },
+        error, &base, nullptr))
+        << error;
     EXPECT_EQ(seen, "by another PROCESS");
 }
 
@@ -149,14 +182,24 @@ TEST_F(StateStoreTest, NothingIsHandedBackWhenNothingWasWrittenOrItBreaksARule)
     std::string error;
     ASSERT_TRUE(store.read(base, error)) << error;
     Snapshot written;
-    ASSERT_TRUE(store.update([](San& san) { san.name = "refused"; return false; }, error, &base, &written));
+    ASSERT_TRUE(store.update(
+        [](San& san) {
+            san.name = "refused";
+            return false;
+        },
+        error, &base, &written));
     EXPECT_TRUE(written.stamp.empty());
     EXPECT_TRUE(written.text.empty());
 
-    ASSERT_TRUE(store.update([](San& san) { san.adapters[1].id = san.adapters[0].id; return true; }, error, &base,
-                             &written)) << error;
+    ASSERT_TRUE(store.update(
+        [](San& san) {
+            san.adapters[1].id = san.adapters[0].id;
+            return true;
+        },
+        error, &base, &written))
+        << error;
     EXPECT_TRUE(written.stamp.empty());
-    EXPECT_FALSE(store.read(base, error));   // as a fresh read says
+    EXPECT_FALSE(store.read(base, error)); // as a fresh read says
     EXPECT_NE(error.find("defined twice"), std::string::npos) << error;
 }
 
@@ -194,31 +237,34 @@ void runConcurrentToggles(const std::string& path, bool snapshots)
         ASSERT_GE(pid, 0);
         if (pid == 0) {
             try {
-            StateStore store(path);
-            PathRef lun{start.luns[static_cast<size_t>(p)].paths[0].target, start.luns[static_cast<size_t>(p)].paths[0].lun, 1};
-            Snapshot known;
-            std::string err;
-            if (snapshots && !store.read(known, err)) {
-                fprintf(stderr, "child %d: %s\n", p, err.c_str());
-                _exit(1);
-            }
-            for (int i = 0; i < kToggles; ++i) {
-                Snapshot written;
-                bool ok = store.update([&](San& san) {
-                    rules::CacheRequest req;
-                    req.mode = (i % 2 == 0) ? 1 : 0;
-                    if (rules::enableCache(san, adapter, lun, req, 1700000000) != code::Ok)
-                        return false;
-                    rules::appendLog(*findAdapter(san, adapter), 1700000000, 5, "test", "toggle");
-                    return true;
-                }, err, snapshots ? &known : nullptr, &written);
-                if (!ok) {
+                StateStore store(path);
+                PathRef lun{start.luns[static_cast<size_t>(p)].paths[0].target,
+                            start.luns[static_cast<size_t>(p)].paths[0].lun, 1};
+                Snapshot known;
+                std::string err;
+                if (snapshots && !store.read(known, err)) {
                     fprintf(stderr, "child %d: %s\n", p, err.c_str());
                     _exit(1);
                 }
-                if (!written.stamp.empty())
-                    known = std::move(written);
-            }
+                for (int i = 0; i < kToggles; ++i) {
+                    Snapshot written;
+                    bool ok = store.update(
+                        [&](San& san) {
+                            rules::CacheRequest req;
+                            req.mode = (i % 2 == 0) ? 1 : 0;
+                            if (rules::enableCache(san, adapter, lun, req, 1700000000) != code::Ok)
+                                return false;
+                            rules::appendLog(*findAdapter(san, adapter), 1700000000, 5, "test", "toggle");
+                            return true;
+                        },
+                        err, snapshots ? &known : nullptr, &written);
+                    if (!ok) {
+                        fprintf(stderr, "child %d: %s\n", p, err.c_str());
+                        _exit(1);
+                    }
+                    if (!written.stamp.empty())
+                        known = std::move(written);
+                }
             } catch (const std::exception& e) {
                 fprintf(stderr, "child %d: %s\n", p, e.what());
                 _exit(3);
@@ -277,7 +323,12 @@ TEST_F(StateStoreTest, KilledWritersNeverLeaveAnUnreadableState)
             StateStore store(path);
             for (int i = 0;; ++i) {
                 std::string err;
-                store.update([&](San& san) { san.name = "round" + std::to_string(i); return true; }, err);
+                store.update(
+                    [&](San& san) {
+                        san.name = "round" + std::to_string(i);
+                        return true;
+                    },
+                    err);
             }
         }
         usleep(static_cast<useconds_t>(2000 + rand() % 40000));

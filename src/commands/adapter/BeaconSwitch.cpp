@@ -26,7 +26,7 @@ int switchBeacon(TokenCmd& cmd, bool enable, std::string& err)
         return rc;
     CommandReport report;
     report.text = "Beacon of FC Port " + std::to_string(port) + " has been " + (enable ? "enabled" : "disabled") +
-                  " successfully.";
+        " successfully.";
     report.writeResult = false;
     return finishCommand(cmd, target.adapter, report, err);
 }

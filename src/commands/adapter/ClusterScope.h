@@ -44,4 +44,3 @@ struct ClusterScope {
 // of the clusters it covers. 0 or a return code; when the named adapter's
 // cluster doesn't fit, the report is given here and `finished` is set.
 int gatherClusterScope(TokenCmd& cmd, ClusterScope& scope, std::string& err);
-

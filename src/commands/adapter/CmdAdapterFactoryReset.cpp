@@ -21,12 +21,12 @@ CmdAdapterFactoryReset::CmdAdapterFactoryReset()
     declareCommand(*this, rows);
     helpTitle = "Factory_Reset Adapter";
     helpDescription = "Erases all persistent settings of the adapter and returns them to factory defaults. Data on the "
-        "drives is not changed.";
+                      "drives is not changed.";
     helpSyntax = "\t[-accept_risk]\n" + adapterSyntax();
     helpModifiers = "-accept_risk\n"
-        "\tReset without asking for confirmation.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -accept_risk";
+                    "\tReset without asking for confirmation.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -accept_risk";
     helpNotes = "The adapter must be restarted (\"restart adapter\") for the reset to take effect.";
 }
 

@@ -18,7 +18,6 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     endRow(),
 };
 
-
 } // namespace
 
 CmdAdapterRestart::CmdAdapterRestart()

@@ -24,7 +24,8 @@ CmdAdapterSet::CmdAdapterSet()
     helpDescription = "Sets the symbolic name of the adapter.";
     helpSyntax = "\t[-name=<name>]\n" + adapterSyntax();
     helpModifiers = "-name=<name>\n"
-        "\tNew symbolic name: blank, or at most 63 characters.\n" + adapterHelp();
+                    "\tNew symbolic name: blank, or at most 63 characters.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -name=rack4_hba0";
     helpNotes = "A name change may need \"restart adapter\" to take effect.";
 }

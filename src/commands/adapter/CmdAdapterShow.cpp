@@ -41,9 +41,9 @@ std::string unreachableText(KIsaAdapterPath const& path)
 {
     if (path.isLocalDevice())
         return "    *** Error communicating with local ZEK device " + std::to_string(path.deviceInstanceForAccess()) +
-               "\n\n";
-    return "    *** Error communicating with ZEK device " + path.hbaIDText() +
-           agentSuffix(path, " on remote host ") + "\n\n";
+            "\n\n";
+    return "    *** Error communicating with ZEK device " + path.hbaIDText() + agentSuffix(path, " on remote host ") +
+        "\n\n";
 }
 
 // The local adapters, scanning first when the library holds none yet.
@@ -70,8 +70,8 @@ int appendAdapterBlock(KIsaAdapterPath const& path, std::string& text)
         return 0;
     }
     KClusterID const* const cluster = adapter->getClusterId();
-    text += adapterNames(path) + "\n        " + path.displayText() + "\n        Cluster Key         = " +
-            (cluster ? cluster->displayText() : KClusterID().displayText()) + "\n";
+    text += adapterNames(path) + "\n        " + path.displayText() +
+        "\n        Cluster Key         = " + (cluster ? cluster->displayText() : KClusterID().displayText()) + "\n";
     KIsaAdapterInfo info;
     if (int const rc = adapter->getAdapterInfo(info))
         return rc;
@@ -88,9 +88,8 @@ CmdAdapterShow::CmdAdapterShow()
     helpDescription = "Shows the details of the local adapters, or of one adapter.";
     helpSyntax = "\t[-zek=<adapter>]";
     helpModifiers = "-zek=<adapter>\n"
-        "\tShow only this adapter.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-zek=0";
+                    "\tShow only this adapter.";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-zek=0";
 }
 
 int CmdAdapterShow::execCommand(std::string& err)

@@ -31,11 +31,13 @@ CmdAdapterVersion::CmdAdapterVersion()
 {
     declareCommand(*this, rows);
     helpTitle = "Version Adapter";
-    helpDescription = "Checks that the firmware of the adapter has an expected version. The outcome is shown and recorded "
+    helpDescription =
+        "Checks that the firmware of the adapter has an expected version. The outcome is shown and recorded "
         "in the result file; the command itself succeeds either way.";
     helpSyntax = "\t-compare=<version>\n" + adapterSyntax();
     helpModifiers = "-compare=<version>\n"
-        "\tExpected firmware version, compared exactly.\n" + adapterHelp();
+                    "\tExpected firmware version, compared exactly.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -compare=2.103.6.4";
 }
 
@@ -58,7 +60,7 @@ int CmdAdapterVersion::execCommand(std::string& err)
         report.text = "Confirmed:  Adapter firmware version is " + firmware;
     } else {
         report.text = "FAILED:  Tested adapter firmware version for " + compare->value +
-                      ", but the adapter firmware is " + firmware;
+            ", but the adapter firmware is " + firmware;
         // A failed test is an answer, not an error: scripts read it from the
         // result record while the command itself succeeds.
         report.resultCode = MHBA_E_FAILURE;

@@ -22,7 +22,8 @@ CmdCaptureFileSave::CmdCaptureFileSave()
     helpDescription = "Saves a capture of the state of the adapter, for support, in a .tar.gz file.";
     helpSyntax = "\t-file=<file name>\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe file. \".tar.gz\" is added unless the name ends in it.\n" + adapterHelp();
+                    "\tThe file. \".tar.gz\" is added unless the name ends in it.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=capture0.tar.gz";
 }
 

@@ -42,21 +42,23 @@ CmdClusterCreate::CmdClusterCreate()
     declareCommand(*this, rows);
     helpTitle = "Create Cluster";
     helpDescription = "Creates a cluster of adapters. The adapter named by -zek becomes the cluster primary, which has "
-        "overall control of the cached data; -secondary names the adapter that can reach the cached data "
-        "and takes over if the primary fails.";
+                      "overall control of the cached data; -secondary names the adapter that can reach the cached data "
+                      "and takes over if the primary fails.";
     helpSyntax = "\t-clusterid=<cluster id>\n"
-        "\t-secondary=<adapter>\n"
-        "\t[-host_cluster_type=<type>]\n" + adapterSyntax();
+                 "\t-secondary=<adapter>\n"
+                 "\t[-host_cluster_type=<type>]\n" +
+        adapterSyntax();
     helpModifiers = "-clusterid=<cluster id>\n"
-        "\tIdentifier of the cluster, 8 to 16 characters.\n"
-        "-secondary=<adapter>\n"
-        "\tThe adapter that becomes the cluster secondary, in any form that -zek\n"
-        "\taccepts. It takes over as primary if the primary fails.\n"
-        "-host_cluster_type=<type>\n"
-        "\tClustering software of the hosts: unknown, none, mscs, vmware,\n"
-        "\toracle_rac or linux. Default is none.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -clusterid=SANCLUSTER1 -secondary=1"
-        + ugCommandPrompt() + "-zek=0 -clusterid=SANCLUSTER1 -secondary=2000001B32A1B2C3 -host_cluster_type=vmware";
+                    "\tIdentifier of the cluster, 8 to 16 characters.\n"
+                    "-secondary=<adapter>\n"
+                    "\tThe adapter that becomes the cluster secondary, in any form that -zek\n"
+                    "\taccepts. It takes over as primary if the primary fails.\n"
+                    "-host_cluster_type=<type>\n"
+                    "\tClustering software of the hosts: unknown, none, mscs, vmware,\n"
+                    "\toracle_rac or linux. Default is none.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -clusterid=SANCLUSTER1 -secondary=1" + ugCommandPrompt() +
+        "-zek=0 -clusterid=SANCLUSTER1 -secondary=2000001B32A1B2C3 -host_cluster_type=vmware";
     helpNotes = "An adapter can belong to one cluster only.";
 }
 
@@ -89,6 +91,5 @@ int CmdClusterCreate::execCommand(std::string& err)
         err.clear();
         return rc;
     }
-    return finishCommand(*this, primary.adapter, CommandReport::withoutBanner("Cluster successfully created.\n"),
-                         err);
+    return finishCommand(*this, primary.adapter, CommandReport::withoutBanner("Cluster successfully created.\n"), err);
 }

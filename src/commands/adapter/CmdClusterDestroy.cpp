@@ -22,7 +22,8 @@ CmdClusterDestroy::CmdClusterDestroy()
     helpDescription = "Destroys a cluster. Its adapters no longer belong to any cluster.";
     helpSyntax = "\t-clusterid=<cluster id>\n" + adapterSyntax();
     helpModifiers = "-clusterid=<cluster id>\n"
-        "\tIdentifier of the cluster, 8 to 16 characters.\n" + adapterHelp();
+                    "\tIdentifier of the cluster, 8 to 16 characters.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -clusterid=SANCLUSTER1";
     helpNotes = "-zek must name the primary adapter of the cluster.";
 }

@@ -22,17 +22,16 @@ CmdClusterList::CmdClusterList()
 {
     declareCommand(*this, rows);
     helpTitle = "List Cluster";
-    helpDescription = "Lists clusters with their member adapters and their roles. Adapters outside any cluster are listed "
+    helpDescription =
+        "Lists clusters with their member adapters and their roles. Adapters outside any cluster are listed "
         "as a group of their own.";
     helpSyntax = "\t[-clusterid=<cluster id>]\n"
-        "\t[-zek=<adapter>]";
+                 "\t[-zek=<adapter>]";
     helpModifiers = "-clusterid=<cluster id>\n"
-        "\tList only this cluster.\n"
-        "-zek=<adapter>\n"
-        "\tList only the cluster of this adapter.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-clusterid=SANCLUSTER1"
-        + ugCommandPrompt() + "-zek=0";
+                    "\tList only this cluster.\n"
+                    "-zek=<adapter>\n"
+                    "\tList only the cluster of this adapter.";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-clusterid=SANCLUSTER1" + ugCommandPrompt() + "-zek=0";
     helpResultFile = recordResultHelp("KClusterInfo", 40);
 }
 
@@ -55,7 +54,6 @@ int CmdClusterList::execCommand(std::string& err)
             text += getSummaryText_Cluster(*cluster->getClusterId());
     }
     KClusterInfo const* const info = last->getClusterInfo();
-    CommandReport const report =
-        CommandReport::withoutBanner(text, MHBA_S_OK, info, info ? sizeof(KClusterInfo) : 0);
+    CommandReport const report = CommandReport::withoutBanner(text, MHBA_S_OK, info, info ? sizeof(KClusterInfo) : 0);
     return finishCommand(*this, nullptr, report, err);
 }

@@ -119,16 +119,14 @@ CmdClusterShow::CmdClusterShow()
     declareCommand(*this, rows);
     helpTitle = "Show Cluster";
     helpDescription = "Shows the clusters with the details of each member adapter, and the adapters that belong to no "
-        "cluster.";
+                      "cluster.";
     helpSyntax = "\t[-clusterid=<cluster id>]\n"
-        "\t[-zek=<adapter>]";
+                 "\t[-zek=<adapter>]";
     helpModifiers = "-clusterid=<cluster id>\n"
-        "\tShow only this cluster.\n"
-        "-zek=<adapter>\n"
-        "\tShow only the cluster of this adapter.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-clusterid=SANCLUSTER1"
-        + ugCommandPrompt() + "-zek=0";
+                    "\tShow only this cluster.\n"
+                    "-zek=<adapter>\n"
+                    "\tShow only the cluster of this adapter.";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-clusterid=SANCLUSTER1" + ugCommandPrompt() + "-zek=0";
     helpResultFile = recordResultHelp("KIsaAdapterInfo", 1496);
 }
 

@@ -20,11 +20,13 @@ CmdDemonstrationSave::CmdDemonstrationSave()
 {
     declareCommand(*this, rows);
     helpTitle = "Save Demonstration_File";
-    helpDescription = "Saves what is known about the adapters in a demonstration file, which -demonstration_file can later "
+    helpDescription =
+        "Saves what is known about the adapters in a demonstration file, which -demonstration_file can later "
         "use in place of real adapters.";
     helpSyntax = "\t-file=<file name>\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe demonstration file.\n" + adapterHelp();
+                    "\tThe demonstration file.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=demo.dat";
 }
 

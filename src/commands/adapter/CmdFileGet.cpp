@@ -5,7 +5,6 @@
 #include "commands/KeywordHelp.h"
 #include "commands/adapter/FileCommand.h"
 
-
 namespace {
 
 constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
@@ -24,14 +23,16 @@ CmdFileGet::CmdFileGet()
     helpTitle = "Get File";
     helpDescription = "Copies a file from the adapter (from its /var/ftp area) to the host.";
     helpSyntax = "\t-file=<file name>\n"
-        "\t[-name=<name>]\n"
-        "\t[-clear]\n" + adapterSyntax();
+                 "\t[-name=<name>]\n"
+                 "\t[-clear]\n" +
+        adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tLocal file that receives the copy.\n"
-        "-name=<name>\n"
-        "\tName of the file on the adapter.\n"
-        "-clear\n"
-        "\tClear the file on the adapter after the copy.\n" + adapterHelp();
+                    "\tLocal file that receives the copy.\n"
+                    "-name=<name>\n"
+                    "\tName of the file on the adapter.\n"
+                    "-clear\n"
+                    "\tClear the file on the adapter after the copy.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=/tmp/config.txt -name=config.txt";
 }
 
@@ -45,8 +46,8 @@ int CmdFileGet::execCommand(std::string& err)
     if (int const rc = target.adapter->getFile(file.c_str(), adapterFile.nameOrNull(), adapterFile.clear))
         return rc;
     CommandReport report;
-    report.text = adapterFile.named ? "Fibre Channel Adapter file \"" + adapterFile.name +
-                                          "\" saved successfully to file: \"" + file + "\""
-                                    : "File \"" + file + "\" saved successfully";
+    report.text = adapterFile.named
+        ? "Fibre Channel Adapter file \"" + adapterFile.name + "\" saved successfully to file: \"" + file + "\""
+        : "File \"" + file + "\" saved successfully";
     return finishCommand(*this, target.adapter, report, err);
 }

@@ -5,7 +5,6 @@
 #include "commands/KeywordHelp.h"
 #include "commands/adapter/FileCommand.h"
 
-
 namespace {
 
 constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
@@ -24,14 +23,16 @@ CmdFilePut::CmdFilePut()
     helpTitle = "Put File";
     helpDescription = "Copies a file from the host to the adapter (to its /var/ftp area).";
     helpSyntax = "\t-file=<file name>\n"
-        "\t[-name=<name>]\n"
-        "\t[-clear]\n" + adapterSyntax();
+                 "\t[-name=<name>]\n"
+                 "\t[-clear]\n" +
+        adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tLocal file to copy.\n"
-        "-name=<name>\n"
-        "\tName of the file on the adapter. Default is the local name.\n"
-        "-clear\n"
-        "\tClear the file on the adapter before the copy.\n" + adapterHelp();
+                    "\tLocal file to copy.\n"
+                    "-name=<name>\n"
+                    "\tName of the file on the adapter. Default is the local name.\n"
+                    "-clear\n"
+                    "\tClear the file on the adapter before the copy.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=/tmp/config.txt -name=config.txt";
 }
 

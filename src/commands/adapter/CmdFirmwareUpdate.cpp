@@ -23,7 +23,8 @@ CmdFirmwareUpdate::CmdFirmwareUpdate()
     helpDescription = "Loads new firmware from a file into the adapter.";
     helpSyntax = "\t-file=<file name>\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe firmware image.\n" + adapterHelp();
+                    "\tThe firmware image.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=zek_fw_2_103.bin";
     helpNotes = "The adapter may need \"restart adapter\" for the new firmware to run.";
 }
@@ -42,8 +43,8 @@ int CmdFirmwareUpdate::execCommand(std::string& err)
     }
     CommandReport report;
     report.text = rc == MHBA_S_OK_REBOOT_REQUIRED
-                      ? "Firmware update complete --> 'restart adapter' is required for changes to take effect"
-                      : "Firmware update complete";
+        ? "Firmware update complete --> 'restart adapter' is required for changes to take effect"
+        : "Firmware update complete";
     // An update leaves no result record behind, whatever its outcome.
     report.writeResult = false;
     return finishCommand(*this, target.adapter, report, err);

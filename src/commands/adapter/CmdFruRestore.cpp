@@ -22,7 +22,8 @@ CmdFruRestore::CmdFruRestore()
     helpDescription = "Restores the field replaceable unit data of the adapter from a file saved by \"save fru_file\".";
     helpSyntax = "\t-file=<file name>\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe saved FRU file.\n" + adapterHelp();
+                    "\tThe saved FRU file.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=adapter0.tar.gz";
     helpNotes = "The adapter must be restarted (\"restart adapter\") for the change to take effect.";
 }

@@ -22,7 +22,8 @@ CmdFruSave::CmdFruSave()
     helpDescription = "Saves the field replaceable unit data of the adapter in a .tar.gz file.";
     helpSyntax = "\t-file=<file name>\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe file. \".tar.gz\" is added unless the name ends in it.\n" + adapterHelp();
+                    "\tThe file. \".tar.gz\" is added unless the name ends in it.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=adapter0.tar.gz";
 }
 

@@ -20,7 +20,8 @@ CmdHealthShow::CmdHealthShow()
 {
     declareCommand(*this, rows);
     helpTitle = "Show Health";
-    helpDescription = "Shows the health of the adapter: temperatures, PCI Express links, memory and cache error counts, "
+    helpDescription =
+        "Shows the health of the adapter: temperatures, PCI Express links, memory and cache error counts, "
         "beacons and hardware error flags.";
     helpSyntax = adapterSyntax();
     helpModifiers = adapterHelp();

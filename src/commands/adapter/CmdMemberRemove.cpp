@@ -24,17 +24,19 @@ CmdMemberRemove::CmdMemberRemove()
     helpTitle = "Remove Member";
     helpDescription = "Removes an adapter from a cluster. The command is sent to the primary adapter of the cluster.";
     helpSyntax = "\t-clusterid=<cluster id>\n"
-        "\t-member=<adapter>\n"
-        "\t[-accept_risk]\n" + adapterSyntax();
+                 "\t-member=<adapter>\n"
+                 "\t[-accept_risk]\n" +
+        adapterSyntax();
     helpModifiers = "-clusterid=<cluster id>\n"
-        "\tIdentifier of the cluster, 8 to 16 characters.\n"
-        "-member=<adapter>\n"
-        "\tThe adapter to remove, in any form that -zek accepts.\n"
-        "-accept_risk\n"
-        "\tRemove without asking for confirmation.\n" + adapterHelp();
+                    "\tIdentifier of the cluster, 8 to 16 characters.\n"
+                    "-member=<adapter>\n"
+                    "\tThe adapter to remove, in any form that -zek accepts.\n"
+                    "-accept_risk\n"
+                    "\tRemove without asking for confirmation.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -clusterid=SANCLUSTER1 -member=2000001B32A1B2C3";
     helpNotes = "-zek must name the primary adapter of the cluster. Remove the member physically or\n"
-        "from the FC zone, or its access to LUNs cached on other adapters may corrupt data.";
+                "from the FC zone, or its access to LUNs cached on other adapters may corrupt data.";
 }
 
 int CmdMemberRemove::execCommand(std::string& err)
@@ -57,7 +59,7 @@ int CmdMemberRemove::execCommand(std::string& err)
 
     if (int const rc = primary.adapter->removeClusterMember(member.path, id))
         return rc;
-    std::string const text = "Fibre Channel Adapter " + member.path.displayText() + " successfully removed from cluster " +
-                             id.displayText() + "\n";
+    std::string const text = "Fibre Channel Adapter " + member.path.displayText() +
+        " successfully removed from cluster " + id.displayText() + "\n";
     return finishCommand(*this, primary.adapter, CommandReport::withoutBanner(text), err);
 }

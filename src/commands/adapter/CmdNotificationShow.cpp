@@ -27,14 +27,13 @@ CmdNotificationShow::CmdNotificationShow()
     declareCommand(*this, rows);
     helpTitle = "Show Notification";
     helpDescription = "Shows the event notifications that the adapters send on their own, such as a link going "
-        "down or a drive failing.";
+                      "down or a drive failing.";
     helpSyntax = "\t[-interval=<seconds>]";
     helpModifiers = "-interval=<seconds>\n"
-        "\tWatch for notifications without end, looking again after this many\n"
-        "\tseconds, up to 100000. Without it, or with 0, the pending notifications\n"
-        "\tare shown once.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-interval=10";
+                    "\tWatch for notifications without end, looking again after this many\n"
+                    "\tseconds, up to 100000. Without it, or with 0, the pending notifications\n"
+                    "\tare shown once.";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-interval=10";
     helpNotes = "Interrupt the watch with Ctrl-C.";
 }
 

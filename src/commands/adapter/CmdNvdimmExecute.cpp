@@ -25,26 +25,29 @@ CmdNvdimmExecute::CmdNvdimmExecute()
 {
     declareCommand(*this, rows);
     helpTitle = "Execute NVDIMM";
-    helpDescription = "Runs an NVDIMM operation on the adapter. When several flags are given, only the first in the order "
+    helpDescription =
+        "Runs an NVDIMM operation on the adapter. When several flags are given, only the first in the order "
         "of the syntax is used.";
     helpSyntax = "\t[-disarm]\n"
-        "\t[-erase]\n"
-        "\t[-update]\n"
-        "\t[-update_all]\n"
-        "\t[-scap_selftest]\n"
-        "\t[-scrub]\n" + adapterSyntax();
+                 "\t[-erase]\n"
+                 "\t[-update]\n"
+                 "\t[-update_all]\n"
+                 "\t[-scap_selftest]\n"
+                 "\t[-scrub]\n" +
+        adapterSyntax();
     helpModifiers = "-disarm\n"
-        "\tDisarm the NVDIMM.\n"
-        "-erase\n"
-        "\tErase the NVDIMM.\n"
-        "-update\n"
-        "\tUpdate the NVDIMM firmware.\n"
-        "-update_all\n"
-        "\tUpdate all NVDIMM firmware images.\n"
-        "-scap_selftest\n"
-        "\tRun the supercapacitor self test.\n"
-        "-scrub\n"
-        "\tScrub the NVDIMM.\n" + adapterHelp();
+                    "\tDisarm the NVDIMM.\n"
+                    "-erase\n"
+                    "\tErase the NVDIMM.\n"
+                    "-update\n"
+                    "\tUpdate the NVDIMM firmware.\n"
+                    "-update_all\n"
+                    "\tUpdate all NVDIMM firmware images.\n"
+                    "-scap_selftest\n"
+                    "\tRun the supercapacitor self test.\n"
+                    "-scrub\n"
+                    "\tScrub the NVDIMM.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -scap_selftest";
     helpNotes = "One of the flags must be given. The adapter must support an NVDIMM.";
 }

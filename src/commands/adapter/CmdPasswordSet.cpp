@@ -26,11 +26,13 @@ CmdPasswordSet::CmdPasswordSet()
     helpTitle = "Set Password";
     helpDescription = "Changes the password with which remote management reaches the adapter.";
     helpSyntax = "\t-rpc_password=<new password>\n"
-        "\t[-old_password=<current password>]\n" + adapterSyntax();
+                 "\t[-old_password=<current password>]\n" +
+        adapterSyntax();
     helpModifiers = "-rpc_password=<new password>\n"
-        "\tThe new password of the adapter.\n"
-        "-old_password=<current password>\n"
-        "\tThe password in force now, if one is set.\n" + adapterHelp();
+                    "\tThe new password of the adapter.\n"
+                    "-old_password=<current password>\n"
+                    "\tThe password in force now, if one is set.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -rpc_password=newsecret -old_password=oldsecret";
 }
 

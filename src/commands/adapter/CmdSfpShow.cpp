@@ -35,9 +35,9 @@ CmdSfpShow::CmdSfpShow()
     helpDescription = "Shows the SFP transceiver data of one Fibre Channel port, or of all.";
     helpSyntax = "\t[-port=<port number>]\n" + adapterSyntax();
     helpModifiers = "-port=<port number>\n"
-        "\tShow only this port, 1 to the number of ports.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -port=1";
+                    "\tShow only this port, 1 to the number of ports.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -port=1";
     helpResultFile = recordResultHelp("KSfpInfo", 576);
 }
 
@@ -49,8 +49,8 @@ int CmdSfpShow::execCommand(std::string& err)
         return rc;
     int port = 1;
     bool given = false;
-    if (!getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_PORT, 1, static_cast<int>(info.fcPortCount),
-                                                 port, given, err))
+    if (!getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_PORT, 1, static_cast<int>(info.fcPortCount), port,
+                                                 given, err))
         return ZEKCLI_PARSE_FAIL;
 
     // The result record holds the port read last.

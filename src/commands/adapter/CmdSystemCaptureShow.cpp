@@ -21,8 +21,9 @@ CmdSystemCaptureShow::CmdSystemCaptureShow()
     helpDescription = "Shows the system capture of the adapter: a readable dump of its state for support.";
     helpSyntax = "\t[-file=<file name>]\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tNot used: the capture is shown on the console. Use -textfile to\n"
-        "\tkeep it in a file.\n" + adapterHelp();
+                    "\tNot used: the capture is shown on the console. Use -textfile to\n"
+                    "\tkeep it in a file.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0";
 }
 

@@ -66,8 +66,8 @@ int saveAdapterArchive(TokenCmd& cmd, e_MHBA_RETURN (HIsaAdapter::*save)(const s
 std::string withArchiveEnding(std::string const& name)
 {
     size_t const lastDot = name.rfind('.');
-    size_t const secondLastDot = lastDot == std::string::npos || lastDot == 0 ? std::string::npos
-                                                                              : name.rfind('.', lastDot - 1);
+    size_t const secondLastDot =
+        lastDot == std::string::npos || lastDot == 0 ? std::string::npos : name.rfind('.', lastDot - 1);
     if (secondLastDot != std::string::npos && name.compare(secondLastDot, std::string::npos, kArchiveEnding) == 0)
         return name;
     return name + kArchiveEnding;

@@ -17,12 +17,8 @@ struct NvdimmAction {
 
 // In order of precedence; the adapter does not use the codes 3 and 4.
 constexpr NvdimmAction kActions[] = {
-    {ModifierId::MODIFIER_DISARM, 0},
-    {ModifierId::MODIFIER_ERASE, 1},
-    {ModifierId::MODIFIER_UPDATE, 2},
-    {ModifierId::MODIFIER_UPDATE_ALL, 5},
-    {ModifierId::MODIFIER_SCAP_SELFTEST, 6},
-    {ModifierId::MODIFIER_SCRUB, 7},
+    {ModifierId::MODIFIER_DISARM, 0},     {ModifierId::MODIFIER_ERASE, 1},         {ModifierId::MODIFIER_UPDATE, 2},
+    {ModifierId::MODIFIER_UPDATE_ALL, 5}, {ModifierId::MODIFIER_SCAP_SELFTEST, 6}, {ModifierId::MODIFIER_SCRUB, 7},
 };
 
 constexpr int kUpdateCommand = 2;

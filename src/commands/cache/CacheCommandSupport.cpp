@@ -51,8 +51,8 @@ std::string targetKeyword(bool iscsi)
 
 std::string lunKeywordText(PLunID const& lun)
 {
-    return targetKeyword(lun.targetID().isIscsiTargetId()) + lun.targetID().displayText() + " -lun_number=" +
-           PBase::numberToText(lun.lunNumber());
+    return targetKeyword(lun.targetID().isIscsiTargetId()) + lun.targetID().displayText() +
+        " -lun_number=" + PBase::numberToText(lun.lunNumber());
 }
 
 int readLbaRangeRequest(TokenCmd& cmd, LbaRangeRequest& request, std::string& err)
@@ -66,8 +66,8 @@ int readLbaRangeRequest(TokenCmd& cmd, LbaRangeRequest& request, std::string& er
         return ZEKCLI_PARSE_FAIL;
     if (!found)
         request.start = 0;
-    if (!cmd.getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_LUN_SIZE_LBA, 0, kLargestLba,
-                                                        request.size, found, err))
+    if (!cmd.getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_LUN_SIZE_LBA, 0, kLargestLba, request.size,
+                                                        found, err))
         return ZEKCLI_PARSE_FAIL;
     if (!found)
         request.size = 0;

@@ -32,16 +32,21 @@ CmdCacheDisable::CmdCacheDisable()
 {
     declareCommand(*this, rows);
     helpTitle = "Disable Cache";
-    helpDescription = "Stops caching a LUN on the adapter named by -zek. With -clusterid the request goes to the primary "
+    helpDescription =
+        "Stops caching a LUN on the adapter named by -zek. With -clusterid the request goes to the primary "
         "adapter of that cluster instead.";
-    helpSyntax = lunSelectorSyntax() + "\n"
-        "\t[-clusterid=<cluster id>]\n" + adapterSyntax();
-    helpModifiers = lunSelectorHelp() + "\n"
+    helpSyntax = lunSelectorSyntax() +
+        "\n"
+        "\t[-clusterid=<cluster id>]\n" +
+        adapterSyntax();
+    helpModifiers = lunSelectorHelp() +
+        "\n"
         "-clusterid=<cluster id>\n"
         "\tSend the request to the primary adapter of this cluster; the LUN\n"
-        "\tmust then be named with -lun_wwuln.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234"
-        + ugCommandPrompt() + "-zek=0 -clusterid=SANCLUSTER1 -lun_wwuln=6006-0160-2B10-2D00-8E5A-3A4B-C1D2-E311";
+        "\tmust then be named with -lun_wwuln.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234" + ugCommandPrompt() +
+        "-zek=0 -clusterid=SANCLUSTER1 -lun_wwuln=6006-0160-2B10-2D00-8E5A-3A4B-C1D2-E311";
     helpNotes = "-zek must name the adapter that caches the LUN.";
 }
 
@@ -70,8 +75,8 @@ int CmdCacheDisable::execCommand(std::string& err)
     getTargetIdFromCommandLineModifiers(false, lineTarget, targetGiven, err);
     bool const iscsiKeyword = !targetGiven || lineTarget.isIscsiTargetId();
 
-    int const rc = clusterGiven ? disableThroughCluster(addressed, cluster, err)
-                                : disableOnAdapter(*addressed.adapter, ids, err);
+    int const rc =
+        clusterGiven ? disableThroughCluster(addressed, cluster, err) : disableOnAdapter(*addressed.adapter, ids, err);
     if (rc != 0)
         return rc;
 
@@ -81,7 +86,7 @@ int CmdCacheDisable::execCommand(std::string& err)
     CommandReport report;
     report.banner = false;
     report.text = "Successfully disabled caching for LUN  " + targetKeyword(iscsiKeyword) +
-                  first.targetID().displayText() + " -lun_number=" + PBase::numberToText(first.lunNumber()) + "\n";
+        first.targetID().displayText() + " -lun_number=" + PBase::numberToText(first.lunNumber()) + "\n";
     return finishCommand(*this, addressed.adapter, report, err);
 }
 
@@ -108,8 +113,9 @@ int CmdCacheDisable::disableOnAdapter(HIsaAdapter& adapter, std::vector<PLunID>&
     if (rc == MHBA_E_CACHED_BY_OTHER_ADAPTER) {
         // The command does not follow the LUN: the user picks the adapter.
         err += "This LUN is currently cached on another adapter, ( -zek=" +
-               PBase::ui64NumberToHexText(info.ui64ClusterCacheAdapterPrimary()) + " ).\n"
-               "Please reissue the command to the adapter that is caching this LUN.\n";
+            PBase::ui64NumberToHexText(info.ui64ClusterCacheAdapterPrimary()) +
+            " ).\n"
+            "Please reissue the command to the adapter that is caching this LUN.\n";
         return rc;
     }
     if (rc == MHBA_E_LUN_GONE)
@@ -130,8 +136,7 @@ int CmdCacheDisable::disableGoneLun(HIsaAdapter& adapter, std::string& err)
     return 0;
 }
 
-int CmdCacheDisable::disableThroughCluster(AddressedAdapter& addressed, KClusterID const& cluster,
-                                           std::string& err)
+int CmdCacheDisable::disableThroughCluster(AddressedAdapter& addressed, KClusterID const& cluster, std::string& err)
 {
     // The clusters are known only after a scan; without one every cluster
     // would look unknown.
@@ -155,7 +160,8 @@ int CmdCacheDisable::disableThroughCluster(AddressedAdapter& addressed, KCluster
     }
     HIsaAdapter* const primary = g_pHbaMgmtApi->getAdapters()->find(primaryPath);
     if (!primary) {
-        err = "Cluster identified " + primaryPath.displayText() + " as primary adapter, but that adapter could not be found";
+        err = "Cluster identified " + primaryPath.displayText() +
+            " as primary adapter, but that adapter could not be found";
         return ZEKCLI_PARSE_FAIL;
     }
     KWwulnLunID name;

@@ -29,8 +29,9 @@ protected:
 TEST_F(CacheDumpFiles, NameHoldsTheAdapterAndTheLocalTime)
 {
     std::string const name = command.getCacheInfoFileName("2000001B32A10C00");
-    EXPECT_TRUE(std::regex_match(name, std::regex("CacheInfo-2000001B32A10C00"
-                                                  "[0-9]{4}-[0-9]{2}-[0-9]{2}_[0-9]{2}-[0-9]{2}-[0-9]{2}\\.txt")))
+    EXPECT_TRUE(std::regex_match(name,
+                                 std::regex("CacheInfo-2000001B32A10C00"
+                                            "[0-9]{4}-[0-9]{2}-[0-9]{2}_[0-9]{2}-[0-9]{2}-[0-9]{2}\\.txt")))
         << name;
 }
 
@@ -55,8 +56,7 @@ TEST_F(CacheDumpFiles, AnEmptyFileShowsNothing)
 TEST_F(CacheDumpFiles, AFileThatCannotBeOpenedShowsWhy)
 {
     path = dir.file("missing.txt");
-    EXPECT_EQ(command.displayCacheInfoFile(path),
-              "Unable to open file \"" + path + "\", (No such file or directory)");
+    EXPECT_EQ(command.displayCacheInfoFile(path), "Unable to open file \"" + path + "\", (No such file or directory)");
 }
 
 } // namespace

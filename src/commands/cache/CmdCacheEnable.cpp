@@ -20,19 +20,26 @@ CmdCacheEnable::CmdCacheEnable()
 {
     declareCommand(*this, rows);
     helpTitle = "Enable Cache";
-    helpDescription = "Starts caching a SAN LUN on the adapter named by -zek, with the given cache mode and limits, optionally "
+    helpDescription =
+        "Starts caching a SAN LUN on the adapter named by -zek, with the given cache mode and limits, optionally "
         "mirrored on a second adapter.";
-    helpSyntax = "\t-mode=<cache mode>\n" + cacheSettingsSyntax() + "\n" + lunSelectorSyntax() + "\n"
-        "\t[-mirror=<adapter>]\n" + adapterSyntax();
+    helpSyntax = "\t-mode=<cache mode>\n" + cacheSettingsSyntax() + "\n" + lunSelectorSyntax() +
+        "\n"
+        "\t[-mirror=<adapter>]\n" +
+        adapterSyntax();
     helpModifiers = "-mode=<cache mode>\n"
-        "\tread_write_through, read_write_back, read_only, write_through_only\n"
-        "\tor write_back_only. Any unambiguous abbreviation is accepted.\n" + cacheSettingsHelp() + "\n" + lunSelectorHelp() + "\n"
+                    "\tread_write_through, read_write_back, read_only, write_through_only\n"
+                    "\tor write_back_only. Any unambiguous abbreviation is accepted.\n" +
+        cacheSettingsHelp() + "\n" + lunSelectorHelp() +
+        "\n"
         "-mirror=<adapter>\n"
-        "\tAdapter that keeps a mirror of the cache, in any form that -zek accepts.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -mode=read_write_back -lun_number=2 -fc_target=5006-0160-3BE0-1234"
-        + ugCommandPrompt() + "-zek=0 -mode=read_write_through -max_read=256 -lun_wwuln=6006-0160-2B10-2D00-8E5A-3A4B-C1D2-E311 -mirror=1";
+        "\tAdapter that keeps a mirror of the cache, in any form that -zek accepts.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -mode=read_write_back -lun_number=2 -fc_target=5006-0160-3BE0-1234" +
+        ugCommandPrompt() +
+        "-zek=0 -mode=read_write_through -max_read=256 -lun_wwuln=6006-0160-2B10-2D00-8E5A-3A4B-C1D2-E311 -mirror=1";
     helpNotes = "The LUN must not be cached yet (use \"modify cache\" for a cached LUN).\n"
-        "The minimum sizes must not exceed the maximum sizes.";
+                "The minimum sizes must not exceed the maximum sizes.";
 }
 
 int CmdCacheEnable::execCommand(std::string& err)

@@ -120,9 +120,9 @@ int CmdCacheEnableBase::runCacheCommand(bool bModify, std::string& err)
     CommandReport report;
     report.banner = false;
     if (rc == 0)
-        report.text = std::string(bModify ? "Successfully modified caching for LUN "
-                                          : "Successfully enabled caching for LUN ") +
-                      lunKeywordText(lun) + "\n";
+        report.text =
+            std::string(bModify ? "Successfully modified caching for LUN " : "Successfully enabled caching for LUN ") +
+            lunKeywordText(lun) + "\n";
     report.resultCode = static_cast<e_MHBA_RETURN>(rc);
     if (finishCommand(*this, nullptr, report, err))
         return ZEKCLI_OUTPUT_FAIL;
@@ -187,12 +187,11 @@ int CmdCacheEnableBase::base_execCommand(bool bModify, PLunID& lun, std::string&
     if (!request.mirrorGiven && info.cacheInfo.bMirrored)
         request.mirrorAdapter = info.cacheInfo.ui64MirrorAdapter;
 
-    e_MHBA_RETURN const rc =
-        bModify ? adapter->modifyCache(lun, request.mode, request.profile, request.maxCache, request.minRead,
-                                       request.maxRead, request.minWrite, request.maxWrite, request.mirrorAdapter,
-                                       false)
-                : adapter->enableCache(lun, request.mode, request.profile, request.maxCache, request.minRead,
-                                       request.maxRead, request.minWrite, request.maxWrite, request.mirrorAdapter);
+    e_MHBA_RETURN const rc = bModify
+        ? adapter->modifyCache(lun, request.mode, request.profile, request.maxCache, request.minRead, request.maxRead,
+                               request.minWrite, request.maxWrite, request.mirrorAdapter, false)
+        : adapter->enableCache(lun, request.mode, request.profile, request.maxCache, request.minRead, request.maxRead,
+                               request.minWrite, request.maxWrite, request.mirrorAdapter);
     if (g_pHbaMgmtApi->isFailure(rc)) {
         explainRefusal(rc, err);
         return rc;

@@ -14,12 +14,12 @@
 
 // The six optional keywords, between -mode and the LUN keywords, that set how
 // a LUN is cached; both commands declare them alike.
-#define CACHE_SETTINGS_ROWS                                                                              \
-    keywordRow(ModifierId::MODIFIER_PROFILE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),     \
-        keywordRow(ModifierId::MODIFIER_MAX_CACHE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED), \
-        keywordRow(ModifierId::MODIFIER_MAX_READ, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),  \
-        keywordRow(ModifierId::MODIFIER_MAX_WRITE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED), \
-        keywordRow(ModifierId::MODIFIER_MIN_READ, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),  \
+#define CACHE_SETTINGS_ROWS                                                                                            \
+    keywordRow(ModifierId::MODIFIER_PROFILE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),                  \
+        keywordRow(ModifierId::MODIFIER_MAX_CACHE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),            \
+        keywordRow(ModifierId::MODIFIER_MAX_READ, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),             \
+        keywordRow(ModifierId::MODIFIER_MAX_WRITE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),            \
+        keywordRow(ModifierId::MODIFIER_MIN_READ, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),             \
         keywordRow(ModifierId::MODIFIER_MIN_WRITE, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED)
 
 class HIsaAdapter;

@@ -32,15 +32,20 @@ CmdCacheFlush::CmdCacheFlush()
 {
     declareCommand(*this, rows);
     helpTitle = "Flush Cache";
-    helpDescription = "Writes the dirty data in the cache back to the LUN, for the selected LUNs or for every cached LUN "
+    helpDescription =
+        "Writes the dirty data in the cache back to the LUN, for the selected LUNs or for every cached LUN "
         "of the adapter.";
-    helpSyntax = lunSelectorSyntax() + "\n"
-        "\t[-sync]\n" + adapterSyntax();
-    helpModifiers = lunSelectorHelp() + "\n"
+    helpSyntax = lunSelectorSyntax() +
+        "\n"
+        "\t[-sync]\n" +
+        adapterSyntax();
+    helpModifiers = lunSelectorHelp() +
+        "\n"
         "-sync\n"
-        "\tWait until flushing is complete, showing a dot every 3 seconds.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234 -sync";
+        "\tWait until flushing is complete, showing a dot every 3 seconds.\n" +
+        adapterHelp();
+    helpExamples =
+        ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234 -sync";
 }
 
 int CmdCacheFlush::execCommand(std::string& err)
@@ -88,8 +93,8 @@ int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool wai
         return rc;
     KLunInfo const& info = *held->getLunInfo();
     if (info.eLunType() != KLunInfo::LUN_TYPE_DIRECT_ACCESS) {
-        shown = outDisplay(lun.displayTextWithoutVpGroup() + " NOT flushed, (" + KLunInfo::lunTypeToText(info.eLunType()) +
-                               ")\n",
+        shown = outDisplay(lun.displayTextWithoutVpGroup() + " NOT flushed, (" +
+                               KLunInfo::lunTypeToText(info.eLunType()) + ")\n",
                            err);
         return 0;
     }
@@ -99,8 +104,7 @@ int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool wai
     }
     code = adapter.startCacheFlush(lun);
     if (code != 0) {
-        shown = outDisplay(lun.displayText() + " NOT flushed, (" + g_pHbaMgmtApi->returnCodeToText(code) + ")\n",
-                           err);
+        shown = outDisplay(lun.displayText() + " NOT flushed, (" + g_pHbaMgmtApi->returnCodeToText(code) + ")\n", err);
         // Already told in its line; the other LUNs are flushed all the same.
         code = 0;
         return 0;
@@ -112,8 +116,7 @@ int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool wai
     return waitForFlushEnd(adapter, lun, shown, code, err);
 }
 
-int CmdCacheFlush::waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool& shown, int& code,
-                                   std::string& err)
+int CmdCacheFlush::waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool& shown, int& code, std::string& err)
 {
     shown = outDisplay(lun.displayText(), err);
     if (!shown)

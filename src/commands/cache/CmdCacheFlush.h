@@ -16,7 +16,6 @@ private:
     // A non-zero result ends the command with that code. `shown` is false
     // when the LUN's line could not be written; `code` is what the result
     // record reports.
-    int flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, bool& shown, int& code,
-                    std::string& err);
+    int flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, bool& shown, int& code, std::string& err);
     int waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool& shown, int& code, std::string& err);
 };

@@ -25,12 +25,13 @@ CmdCacheInvalidate::CmdCacheInvalidate()
 {
     declareCommand(*this, rows);
     helpTitle = "Invalidate Cache";
-    helpDescription = "Drops the cached data of a range of logical blocks of one LUN, or of the whole LUN when no range "
+    helpDescription =
+        "Drops the cached data of a range of logical blocks of one LUN, or of the whole LUN when no range "
         "is given.";
     helpSyntax = lbaRangeSyntax(false) + "\n" + lunSelectorSyntax() + "\n" + adapterSyntax();
     helpModifiers = lbaRangeHelp() + "\n" + lunSelectorHelp() + "\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234"
-        + ugCommandPrompt() + "-zek=0 -lun_start_lba=0 -lun_size_lba=2048 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpExamples = ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234" + ugCommandPrompt() +
+        "-zek=0 -lun_start_lba=0 -lun_size_lba=2048 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
     helpNotes = "Exactly one LUN must be selected.";
 }
 
@@ -47,6 +48,6 @@ int CmdCacheInvalidate::execCommand(std::string& err)
     bool const wholeLun = request.start == 0 && request.size == 0;
     std::string const message = wholeLun ? "Successfully invalidated cache for entire range"
                                          : "Successfully invalidated cache for LBA range " +
-                                               std::to_string(request.start) + " to " + std::to_string(end);
+            std::to_string(request.start) + " to " + std::to_string(end);
     return finishLbaRangeCommand(*this, request, rc, message, err);
 }

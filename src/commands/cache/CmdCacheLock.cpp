@@ -28,7 +28,8 @@ CmdCacheLock::CmdCacheLock()
     helpDescription = "Keeps a range of logical blocks of a cached LUN in the cache.";
     helpSyntax = lbaRangeSyntax(true) + "\n" + lunSelectorSyntax() + "\n" + adapterSyntax();
     helpModifiers = lbaRangeHelp() + "\n" + lunSelectorHelp() + "\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -lun_start_lba=0 -lun_size_lba=2048 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpExamples =
+        ugCommandPrompt() + "-zek=0 -lun_start_lba=0 -lun_size_lba=2048 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
     helpNotes = "Exactly one LUN must be selected. A LUN holds at most 16 locked ranges.";
 }
 

@@ -21,9 +21,9 @@ CmdLogReport::CmdLogReport()
     helpDescription = "Writes a text report of the event log of the adapter to a file, or to the console.";
     helpSyntax = "\t[-file=<file name>]\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tFile for the report. Default is the console.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -file=report.txt";
+                    "\tFile for the report. Default is the console.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -file=report.txt";
 }
 
 int CmdLogReport::execCommand(std::string& err)

@@ -21,7 +21,8 @@ CmdLogSave::CmdLogSave()
     helpDescription = "Saves the event log of the adapter in a file, which \"view log\" and \"list log\" can read.";
     helpSyntax = "\t-file=<file name>\n" + adapterSyntax();
     helpModifiers = "-file=<file name>\n"
-        "\tThe log file.\n" + adapterHelp();
+                    "\tThe log file.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -file=adapter0.log";
 }
 

@@ -28,16 +28,18 @@ CmdLunCreate::CmdLunCreate()
     helpTitle = "Create LUN";
     helpDescription = "Creates a data LUN on the SSD drives of the adapter, optionally mirrored on a second adapter.";
     helpSyntax = "\t-size=<GB>\n"
-        "\t[-name=<name>]\n"
-        "\t[-mirror=<adapter>]\n" + adapterSyntax();
+                 "\t[-name=<name>]\n"
+                 "\t[-mirror=<adapter>]\n" +
+        adapterSyntax();
     helpModifiers = "-size=<GB>\n"
-        "\tSize of the new LUN in whole gigabytes, at least 1.\n"
-        "-name=<name>\n"
-        "\tSymbolic name of the new LUN, up to 64 characters.\n"
-        "-mirror=<adapter>\n"
-        "\tAdapter that keeps a mirror of the LUN, in any form that -zek accepts.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -size=100 -name=datalun1"
-        + ugCommandPrompt() + "-zek=0 -size=100 -mirror=1";
+                    "\tSize of the new LUN in whole gigabytes, at least 1.\n"
+                    "-name=<name>\n"
+                    "\tSymbolic name of the new LUN, up to 64 characters.\n"
+                    "-mirror=<adapter>\n"
+                    "\tAdapter that keeps a mirror of the LUN, in any form that -zek accepts.\n" +
+        adapterHelp();
+    helpExamples =
+        ugCommandPrompt() + "-zek=0 -size=100 -name=datalun1" + ugCommandPrompt() + "-zek=0 -size=100 -mirror=1";
 }
 
 int CmdLunCreate::execCommand(std::string& err)
@@ -77,8 +79,8 @@ int CmdLunCreate::execCommand(std::string& err)
         return MHBA_E_ADAPTER_NOT_IN_COLLECTION;
 
     KWwulnLunID created;
-    if (int const rc = adapter->createLun(gigabytesToBytes(gigabytes), lunName, mirrorType, mirrorPath.isaHbaId(),
-                                          created))
+    if (int const rc =
+            adapter->createLun(gigabytesToBytes(gigabytes), lunName, mirrorType, mirrorPath.isaHbaId(), created))
         return rc;
     CommandReport report;
     report.text = "LUN created successfully,  -lun_wwuln=" + created.displayText() + "\n\n";

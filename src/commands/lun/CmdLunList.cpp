@@ -27,14 +27,14 @@ CmdLunList::CmdLunList()
 {
     declareCommand(*this, rows);
     helpTitle = "List LUN";
-    helpDescription = "Lists LUNs, one line per LUN with the keywords that select it. With -zek the LUNs of each target "
+    helpDescription =
+        "Lists LUNs, one line per LUN with the keywords that select it. With -zek the LUNs of each target "
         "that this adapter sees; without it every LUN seen by any adapter, once, with the adapter that caches "
         "it.";
     helpSyntax = "\t[-zek=<adapter>]";
     helpModifiers = "-zek=<adapter>\n"
-        "\tList the LUNs as this adapter sees them, target by target.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-zek=0";
+                    "\tList the LUNs as this adapter sees them, target by target.";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-zek=0";
     helpResultFile = listResultHelp("PLunID", 576, "LUN identifier");
 }
 
@@ -61,7 +61,7 @@ int CmdLunList::listThroughOneAdapter(std::string& err)
     if (gathered == MHBA_S_PARTIAL_SUCCESS) {
         // Some targets answered: list those, with the reason for the rest first.
         err = "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
-              firstFailure.displayText() + "\n";
+            firstFailure.displayText() + "\n";
         text = err;
     } else if (gathered != 0) {
         return gathered;

@@ -23,7 +23,6 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     endRow(),
 };
 
-
 // The largest LUN the adapter can present: 1000 gigabytes.
 constexpr unsigned long long kLargestLunBytes = 0xFA00000000ull;
 constexpr long long kLargestLunGigabytes = static_cast<long long>(kLargestLunBytes >> 30);
@@ -33,7 +32,7 @@ constexpr long long kLargestLunGigabytes = static_cast<long long>(kLargestLunByt
 bool belongsToAnotherAdapter(KLunInfo const& info)
 {
     return info.isLunState(KLunInfo::LUN_STATE_STORAGE_MEDIA_SSD) && info.isLunState(KLunInfo::LUN_STATE_REMOTE) &&
-           !info.isLunState(KLunInfo::LUN_STATE_TP_CONTROLLER_LUN);
+        !info.isLunState(KLunInfo::LUN_STATE_TP_CONTROLLER_LUN);
 }
 
 } // namespace
@@ -44,21 +43,23 @@ CmdLunModify::CmdLunModify()
     helpTitle = "Modify LUN";
     helpDescription = "Grows, renames or changes the mirror of a data LUN of the adapter.";
     helpSyntax = "\t[-size=<GB>]\n"
-        "\t[-name=<name>]\n"
-        "\t[-mirror=<adapter>]\n"
-        "\t[-remove_mirror]\n" + lunSelectorSyntax() + "\n" + adapterSyntax();
+                 "\t[-name=<name>]\n"
+                 "\t[-mirror=<adapter>]\n"
+                 "\t[-remove_mirror]\n" +
+        lunSelectorSyntax() + "\n" + adapterSyntax();
     helpModifiers = "-size=<GB>\n"
-        "\tNew size of the LUN in whole gigabytes, 1 to 1000.\n"
-        "-name=<name>\n"
-        "\tNew symbolic name of the LUN, up to 64 characters.\n"
-        "-mirror=<adapter>\n"
-        "\tAdapter that keeps a mirror of the LUN, in any form that -zek accepts.\n"
-        "-remove_mirror\n"
-        "\tRemove the mirror of the LUN.\n" + lunSelectorHelp() + "\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -size=200 -lun_number=1 -fc_target=5006-0160-3BE0-1234"
-        + ugCommandPrompt() + "-zek=0 -remove_mirror -lun_number=1 -fc_target=5006-0160-3BE0-1234";
+                    "\tNew size of the LUN in whole gigabytes, 1 to 1000.\n"
+                    "-name=<name>\n"
+                    "\tNew symbolic name of the LUN, up to 64 characters.\n"
+                    "-mirror=<adapter>\n"
+                    "\tAdapter that keeps a mirror of the LUN, in any form that -zek accepts.\n"
+                    "-remove_mirror\n"
+                    "\tRemove the mirror of the LUN.\n" +
+        lunSelectorHelp() + "\n" + adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -size=200 -lun_number=1 -fc_target=5006-0160-3BE0-1234" +
+        ugCommandPrompt() + "-zek=0 -remove_mirror -lun_number=1 -fc_target=5006-0160-3BE0-1234";
     helpNotes = "Exactly one LUN must be selected. Size and name cannot be changed together with the\n"
-        "mirror, and -mirror and -remove_mirror cannot be combined.";
+                "mirror, and -mirror and -remove_mirror cannot be combined.";
 }
 
 int CmdLunModify::execCommand(std::string& err)
@@ -112,7 +113,7 @@ int CmdLunModify::execCommand(std::string& err)
     CommandReport report;
     report.banner = false;
     report.text = "Successfully modified LUN  " + lun.targetID().displayText() +
-                  " -lun_number=" + PBase::numberToText(lun.lunNumber()) + "\n";
+        " -lun_number=" + PBase::numberToText(lun.lunNumber()) + "\n";
     report.resultCode = static_cast<e_MHBA_RETURN>(rc);
     return finishCommand(*this, adapter, report, err);
 }
@@ -132,7 +133,7 @@ int CmdLunModify::readChange(KLunInfo const& info, LunChange& change, std::strin
     }
     if (change.size && change.gigabytes > kLargestLunGigabytes) {
         err = "Insufficient storage resources -- size of new LUN must be " +
-              PBase::longlongToMByteText(kLargestLunBytes) + " or less";
+            PBase::longlongToMByteText(kLargestLunBytes) + " or less";
         return ZEKCLI_PARSE_FAIL;
     }
 

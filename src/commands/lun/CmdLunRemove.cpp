@@ -47,8 +47,8 @@ int CmdLunRemove::execCommand(std::string& err)
         err = text;
         return rc;
     }
-    text += "Successfully removed LUN  " + lun.targetID().displayText() + " -lun_number=" +
-            PBase::numberToText(lun.lunNumber()) + "\n";
+    text += "Successfully removed LUN  " + lun.targetID().displayText() +
+        " -lun_number=" + PBase::numberToText(lun.lunNumber()) + "\n";
     CommandReport report;
     report.text = text;
     report.resultCode = static_cast<e_MHBA_RETURN>(rc);

@@ -28,9 +28,9 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
 bool isAdapterPlumbing(KLunInfo const& info)
 {
     return info.isLunState(KLunInfo::LUN_STATE_EXTERNAL_CACHE_STORE_LUN) ||
-           info.isLunState(KLunInfo::LUN_STATE_LOGICAL_CACHE_POOL_LUN) ||
-           info.isLunState(KLunInfo::LUN_STATE_CACHE_STORE) ||
-           (info.isLunState(KLunInfo::LUN_STATE_STORAGE_CONTROLLER_LUN) && info.isLunState(KLunInfo::LUN_STATE_LOCAL));
+        info.isLunState(KLunInfo::LUN_STATE_LOGICAL_CACHE_POOL_LUN) ||
+        info.isLunState(KLunInfo::LUN_STATE_CACHE_STORE) ||
+        (info.isLunState(KLunInfo::LUN_STATE_STORAGE_CONTROLLER_LUN) && info.isLunState(KLunInfo::LUN_STATE_LOCAL));
 }
 
 // The adapter that knows most about the LUN: the one caching it, otherwise
@@ -51,16 +51,17 @@ CmdLunShow::CmdLunShow()
     declareCommand(*this, rows);
     helpTitle = "Show LUN";
     helpDescription = "Shows everything known about LUNs: identity, state, paths, cache settings and statistics. With "
-        "-zek the selected LUNs as this adapter sees them; without it every LUN, once, from the adapter "
-        "that caches it.";
-    helpSyntax = lunSelectorSyntax() + "\n"
+                      "-zek the selected LUNs as this adapter sees them; without it every LUN, once, from the adapter "
+                      "that caches it.";
+    helpSyntax = lunSelectorSyntax() +
+        "\n"
         "\t[-zek=<adapter>]";
-    helpModifiers = lunSelectorHelp() + "\n"
+    helpModifiers = lunSelectorHelp() +
+        "\n"
         "-zek=<adapter>\n"
         "\tShow the LUNs as this adapter sees them.";
-    helpExamples = ugCommandPrompt()
-        + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234"
-        + ugCommandPrompt() + "-zek=0 -lun_wwuln=6006-0160-2B10-2D00-8E5A-3A4B-C1D2-E311";
+    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234" +
+        ugCommandPrompt() + "-zek=0 -lun_wwuln=6006-0160-2B10-2D00-8E5A-3A4B-C1D2-E311";
     helpResultFile = listResultHelp("KLunInfo", 1560, "LUN record");
     helpNotes = "The LUN keywords are used only together with -zek.";
 }
@@ -150,8 +151,8 @@ int CmdLunShow::showOneLun(HIsaAdapter* adapter, PLunID const& lun, std::string&
     bool haveStatistics = false;
     if (usable) {
         // A peer's cache is counted by the peer, so only the I/O counters are asked for then.
-        bool const withCache = info.isSanLun() && info.eCacheState() != KLunInfo::CACHE_STATE_CACHED_PEER &&
-                               info.isLunCached();
+        bool const withCache =
+            info.isSanLun() && info.eCacheState() != KLunInfo::CACHE_STATE_CACHED_PEER && info.isLunCached();
         haveStatistics = adapter->getLunIoStatistics(info.ui8Wwuln, info.ui32WwulnLength, withCache, statistics) == 0;
     }
 
@@ -182,12 +183,12 @@ std::string CmdLunShow::identityText(KLunInfo const& info, PLunID const& lun) co
     if (info.eWwulnCodeSet != PBase::WWULN_CODE_SET_NONE)
         text += getDisplayText_Wwname(info.ui8Wwuln, static_cast<int>(info.ui32WwulnLength), info.eWwulnCodeSet,
                                       "lun_wwuln", false) +
-                "\n";
+            "\n";
     if (info.ui32Page80SerialLength != 0)
-        text += "-lun_serial=\"" + std::string(info.szPage80Serial, strnlen(info.szPage80Serial, sizeof info.szPage80Serial)) +
-                "\"\n";
-    text += "    Target     = " + lun.targetID().displayText() + "\n    LUN Number = " +
-            PBase::numberToText(lun.lunNumber()) + "\n";
+        text += "-lun_serial=\"" +
+            std::string(info.szPage80Serial, strnlen(info.szPage80Serial, sizeof info.szPage80Serial)) + "\"\n";
+    text += "    Target     = " + lun.targetID().displayText() +
+        "\n    LUN Number = " + PBase::numberToText(lun.lunNumber()) + "\n";
     return text + info.displayText();
 }
 
@@ -199,11 +200,11 @@ std::string CmdLunShow::statisticsText(KLunInfo const& info, KLunIoStatistics co
     if (info.eCacheState() == KLunInfo::CACHE_STATE_CACHED_PEER)
         // The caching adapter holds the cache's figures; only the mirror is known here.
         return text + "    (LUN is cached on remote adapter " +
-               KIsaAdapterPath::ui64numberToHexText(info.ui64ClusterCacheAdapterPrimary()) + ")\n" +
-               info.cacheInfo.displayMirrorLunText();
+            KIsaAdapterPath::ui64numberToHexText(info.ui64ClusterCacheAdapterPrimary()) + ")\n" +
+            info.cacheInfo.displayMirrorLunText();
     if (!info.isLunCached())
         return text + "    (LUN is not cached)\n";
     return text + "    LUN Cache Info:\n" +
-           info.cacheInfo.displayText(info.eLunType() == KLunInfo::LUN_TYPE_DIRECT_ACCESS) +
-           "\n    LUN Cache Statistics:\n" + statistics.cacheStatistics.displayText();
+        info.cacheInfo.displayText(info.eLunType() == KLunInfo::LUN_TYPE_DIRECT_ACCESS) +
+        "\n    LUN Cache Statistics:\n" + statistics.cacheStatistics.displayText();
 }

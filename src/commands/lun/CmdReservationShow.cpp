@@ -27,11 +27,11 @@ CmdReservationShow::CmdReservationShow()
     helpDescription = "Shows the SCSI persistent reservation of the selected LUNs, or of all LUNs.";
     helpSyntax = lunSelectorSyntax() + "\n" + adapterSyntax();
     helpModifiers = lunSelectorHelp() + "\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
+    helpExamples =
+        ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -lun_number=2 -fc_target=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KLunReservationInfo", 32, "reservation record");
     helpNotes = "The result file holds no reservation records: its count is always 0, and its\n"
-        "return code tells whether the reservations of all selected LUNs could be read.";
+                "return code tells whether the reservations of all selected LUNs could be read.";
 }
 
 int CmdReservationShow::execCommand(std::string& err)
@@ -57,8 +57,8 @@ int CmdReservationShow::execCommand(std::string& err)
         // A LUN whose reservation cannot be read is left out; the result code tells.
         if (rc != 0)
             continue;
-        std::string const text = "-lun_number=" + PBase::numberToText(id.lunNumber()) + " -fc_target=" +
-                                 id.targetID().displayText() + "\n" + reservation.displayText();
+        std::string const text = "-lun_number=" + PBase::numberToText(id.lunNumber()) +
+            " -fc_target=" + id.targetID().displayText() + "\n" + reservation.displayText();
         if (!outDisplay(text, err))
             return ZEKCLI_OUTPUT_FAIL;
     }

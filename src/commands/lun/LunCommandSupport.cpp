@@ -146,7 +146,8 @@ unsigned long long gigabytesToBytes(long long gigabytes)
 int checkLunTargetKeywords(TokenCmd& cmd, std::string& err)
 {
     // Only their presence in the command's table matters here.
-    if (!cmd.findModifier(ModifierId::MODIFIER_LUN_NUMBER, err) || !cmd.findModifier(ModifierId::MODIFIER_VPGINDEX, err))
+    if (!cmd.findModifier(ModifierId::MODIFIER_LUN_NUMBER, err) ||
+        !cmd.findModifier(ModifierId::MODIFIER_VPGINDEX, err))
         return ZEKCLI_PARSE_FAIL;
     PTargetID target;
     bool given = false;

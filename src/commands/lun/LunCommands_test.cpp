@@ -19,8 +19,7 @@ constexpr unsigned long long kAdapter = 0xA0;
 std::string const kT1 = "5000-0000-0000-0001";
 std::string const kT2 = "5000-0000-0000-0002";
 
-std::string const kRefreshFails =
-    R"([{"adapter": "A0", "operation": "refreshLunInfo", "code": 1000, "once": false}])";
+std::string const kRefreshFails = R"([{"adapter": "A0", "operation": "refreshLunInfo", "code": 1000, "once": false}])";
 
 PTargetID fcTarget(std::string const& text)
 {
@@ -81,10 +80,16 @@ TEST(CmdLunList, OneTargetGivesALinePerLunAndListsThem)
     std::vector<PLunID> luns;
     std::string err;
     EXPECT_EQ(0, command.listLunsForOneTarget(adapter, fcTarget(kT2), text, luns, err));
-    EXPECT_EQ("before\n\nTarget \"" + kT2 + "\"\n"
-              "        -lun_number=2 -fc_target=" + kT2 + "\n"
-              "        -lun_number=3 -fc_target=" + kT2 + "\n"
-              "        -lun_number=8 -fc_target=" + kT2 + "\n",
+    EXPECT_EQ("before\n\nTarget \"" + kT2 +
+                  "\"\n"
+                  "        -lun_number=2 -fc_target=" +
+                  kT2 +
+                  "\n"
+                  "        -lun_number=3 -fc_target=" +
+                  kT2 +
+                  "\n"
+                  "        -lun_number=8 -fc_target=" +
+                  kT2 + "\n",
               text);
     ASSERT_EQ(3u, luns.size());
     EXPECT_TRUE(luns[1] == lunOn(kT2, 3));
@@ -133,9 +138,10 @@ TEST(CmdLunShow, ARecordThatCannotBeReadIsShownAsSuchAndStillGiven)
 
     Shown const shown = showOne(adapter, lun);
     EXPECT_EQ(0, shown.code);
-    EXPECT_EQ("-lun_number=5 -fc_target=" + kT1 + "  (" + g_pHbaMgmtApi->returnCodeToText(1000) + ")\n"
-              "    ****** LUN info not available ******\n"
-              "\n",
+    EXPECT_EQ("-lun_number=5 -fc_target=" + kT1 + "  (" + g_pHbaMgmtApi->returnCodeToText(1000) +
+                  ")\n"
+                  "    ****** LUN info not available ******\n"
+                  "\n",
               shown.text);
     ASSERT_EQ(1u, shown.infos.size());
     EXPECT_FALSE(shown.infos[0].isLunInfoValid());
@@ -150,11 +156,14 @@ TEST(CmdLunShow, AReadableSanLunShowsItsNamesAndPlace)
     Shown const shown = showOne(adapter, lunOn(kT1, 5));
     EXPECT_EQ(0, shown.code);
     std::string const& text = shown.text;
-    std::string const head = "-lun_number=5 -fc_target=" + kT1 + "\n"
-                             "-lun_wwuln=600A-0B80-0000-0000-0000-0000-0000-0A05\n"
-                             "-lun_serial=\"SERIAL-A05\"\n"
-                             "    Target     = " + kT1 + "\n"
-                             "    LUN Number = 5\n";
+    std::string const head = "-lun_number=5 -fc_target=" + kT1 +
+        "\n"
+        "-lun_wwuln=600A-0B80-0000-0000-0000-0000-0000-0A05\n"
+        "-lun_serial=\"SERIAL-A05\"\n"
+        "    Target     = " +
+        kT1 +
+        "\n"
+        "    LUN Number = 5\n";
     EXPECT_EQ(head, text.substr(0, head.size()));
     EXPECT_NE(std::string::npos, text.find("    (LUN is not cached)\n"));
     EXPECT_EQ("\n\n", text.substr(text.size() - 2));

@@ -21,13 +21,14 @@ CmdDeviceShow::CmdDeviceShow()
     helpTitle = "Show Device";
     helpDescription = "Shows the details of one device that the adapter sees on the fabric, or of all.";
     helpSyntax = "\t[-fc_device=<wwpn>]\n"
-        "\t[-is_device=<iscsi name>]\n" + adapterSyntax();
+                 "\t[-is_device=<iscsi name>]\n" +
+        adapterSyntax();
     helpModifiers = "-fc_device=<wwpn>\n"
-        "\tWorld-wide port name of a Fibre Channel device.\n"
-        "-is_device=<iscsi name>\n"
-        "\tName of an iSCSI device.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -fc_device=5006-0160-3BE0-1234";
+                    "\tWorld-wide port name of a Fibre Channel device.\n"
+                    "-is_device=<iscsi name>\n"
+                    "\tName of an iSCSI device.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -fc_device=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KDeviceInfo", 848, "device record");
 }
 

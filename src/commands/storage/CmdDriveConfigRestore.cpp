@@ -18,11 +18,13 @@ CmdDriveConfigRestore::CmdDriveConfigRestore()
 {
     declareCommand(*this, rows);
     helpTitle = "Restore Drive_Config";
-    helpDescription = "Takes over the drive configuration that another adapter left on the drives, for example after the "
+    helpDescription =
+        "Takes over the drive configuration that another adapter left on the drives, for example after the "
         "adapter has been replaced.";
     helpSyntax = "\t-owner=<adapter id>\n" + adapterSyntax();
     helpModifiers = "-owner=<adapter id>\n"
-        "\tIdentifier of the adapter that owned the drives, in hexadecimal.\n" + adapterHelp();
+                    "\tIdentifier of the adapter that owned the drives, in hexadecimal.\n" +
+        adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0 -owner=2000001B32A1B2C3";
 }
 

@@ -23,15 +23,19 @@ CmdFcBasicSet::CmdFcBasicSet()
 {
     declareCommand(*this, rows);
     helpTitle = "Set FC";
-    helpDescription = "Sets the link rate, the connection mode and the execution throttle of a Fibre Channel port. Settings "
+    helpDescription =
+        "Sets the link rate, the connection mode and the execution throttle of a Fibre Channel port. Settings "
         "that are not given keep their present values.";
-    helpSyntax = portSyntax(true) + "\n"
+    helpSyntax = portSyntax(true) +
+        "\n"
         "\t[-fc_link_rate=<rate>]\n"
         "\t[-exec_throttle=<count>]\n"
         "\t[-loop_only]\n"
         "\t[-p2p_only]\n"
-        "\t[-auto]\n" + adapterSyntax();
-    helpModifiers = portHelp() + "\n"
+        "\t[-auto]\n" +
+        adapterSyntax();
+    helpModifiers = portHelp() +
+        "\n"
         "-fc_link_rate=<rate>\n"
         "\tLink rate: auto, 2gb, 4gb, 8gb, 10gb or 16gb.\n"
         "-exec_throttle=<count>\n"
@@ -41,9 +45,10 @@ CmdFcBasicSet::CmdFcBasicSet()
         "-p2p_only\n"
         "\tConnect in point-to-point mode only.\n"
         "-auto\n"
-        "\tChoose the connection mode automatically.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -port=1 -fc_link_rate=8gb"
-        + ugCommandPrompt() + "-zek=0 -port=2 -p2p_only -exec_throttle=256";
+        "\tChoose the connection mode automatically.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -port=1 -fc_link_rate=8gb" + ugCommandPrompt() +
+        "-zek=0 -port=2 -p2p_only -exec_throttle=256";
     helpResultFile = recordResultHelp("KFcInfo", 176);
     helpNotes = "Only one of -loop_only, -p2p_only and -auto can be given.";
 }

@@ -21,9 +21,9 @@ CmdFcBasicShow::CmdFcBasicShow()
     helpDescription = "Shows the settings and state of one Fibre Channel port, or of all.";
     helpSyntax = "\t[-port=<port number>]\n" + adapterSyntax();
     helpModifiers = "-port=<port number>\n"
-        "\tShow only this port, 1 to the number of ports.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -port=2";
+                    "\tShow only this port, 1 to the number of ports.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -port=2";
     helpResultFile = recordResultHelp("KFcInfo", 176);
 }
 

@@ -21,13 +21,14 @@ CmdInitiatorShow::CmdInitiatorShow()
     helpTitle = "Show Initiator";
     helpDescription = "Shows the details of one initiator that the adapter sees on the fabric, or of all.";
     helpSyntax = "\t[-fc_initiator=<wwpn>]\n"
-        "\t[-is_initiator=<iscsi name>]\n" + adapterSyntax();
+                 "\t[-is_initiator=<iscsi name>]\n" +
+        adapterSyntax();
     helpModifiers = "-fc_initiator=<wwpn>\n"
-        "\tWorld-wide port name of a Fibre Channel initiator.\n"
-        "-is_initiator=<iscsi name>\n"
-        "\tName of an iSCSI initiator.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -fc_initiator=5006-0160-3BE0-1234";
+                    "\tWorld-wide port name of a Fibre Channel initiator.\n"
+                    "-is_initiator=<iscsi name>\n"
+                    "\tName of an iSCSI initiator.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -fc_initiator=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KInitiatorInfo", 464, "initiator record");
 }
 

@@ -21,10 +21,10 @@ CmdPoolSet::CmdPoolSet()
     helpDescription = "Sets how much of the SSD storage of the adapter serves as cache pool.";
     helpSyntax = "\t-cache=<size>\n" + adapterSyntax();
     helpModifiers = "-cache=<size>\n"
-        "\tPart of the SSD storage used as cache pool, with a unit of KB, MB, GB,\n"
-        "\tTB or PB. A number without a unit counts in GB. At least 4GB.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0 -cache=200"
-        + ugCommandPrompt() + "-zek=0 -cache=512GB";
+                    "\tPart of the SSD storage used as cache pool, with a unit of KB, MB, GB,\n"
+                    "\tTB or PB. A number without a unit counts in GB. At least 4GB.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0 -cache=200" + ugCommandPrompt() + "-zek=0 -cache=512GB";
 }
 
 int CmdPoolSet::execCommand(std::string& err)

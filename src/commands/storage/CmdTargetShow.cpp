@@ -21,13 +21,14 @@ CmdTargetShow::CmdTargetShow()
     helpTitle = "Show Target";
     helpDescription = "Shows the details of one target that the adapter sees on the fabric, or of all.";
     helpSyntax = "\t[-fc_target=<wwpn>]\n"
-        "\t[-is_target=<iscsi name>]\n" + adapterSyntax();
+                 "\t[-is_target=<iscsi name>]\n" +
+        adapterSyntax();
     helpModifiers = "-fc_target=<wwpn>\n"
-        "\tWorld-wide port name of a Fibre Channel target.\n"
-        "-is_target=<iscsi name>\n"
-        "\tName of an iSCSI target.\n" + adapterHelp();
-    helpExamples = ugCommandPrompt() + "-zek=0"
-        + ugCommandPrompt() + "-zek=0 -fc_target=5006-0160-3BE0-1234";
+                    "\tWorld-wide port name of a Fibre Channel target.\n"
+                    "-is_target=<iscsi name>\n"
+                    "\tName of an iSCSI target.\n" +
+        adapterHelp();
+    helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -fc_target=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KTargetInfo", 288, "target record");
 }
 

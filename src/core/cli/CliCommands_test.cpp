@@ -27,8 +27,10 @@ TEST_F(RetvalCli, OwnCodesComeBackWithTheirText)
         {52, kWipe + "*** ZEKCLI_PARSE_FAIL -- CLI could not parse the command line input\n"},
         {53, "(No action taken)  -- User was prompted [yes/no] to accept risk, and the answer was not \"yes\"\n"},
         {54, kWipe + "*** ZEKCLI_CMD_FAIL -- CLI Command execution failed\n"},
-        {55, kWipe + "*** API text of 55 -- CLI Command execution OK, but unable to output results, (e.g. file "
-                     "output required but could not open file)\n"},
+        {55,
+         kWipe +
+             "*** API text of 55 -- CLI Command execution OK, but unable to output results, (e.g. file "
+             "output required but could not open file)\n"},
     };
     for (Case const& c : cases) {
         EXPECT_EQ(c.code, run("retval cli -rv=" + std::to_string(c.code)));
@@ -103,9 +105,11 @@ TEST_F(VersionCli, RemoteAgentAnswers)
     EXPECT_EQ(head + "\n    rmtagent_zek agent found on 10.0.0.1, Version 3.103.6.2\n\n\n", out);
     fake.api.remoteAgentCode = MHBA_E_AGENT_HAS_NO_ADAPTER;
     EXPECT_EQ(0, run("version cli -agent=10.0.0.1"));
-    EXPECT_EQ(head + "\n    rmtagent_zek agent found on 10.0.0.1, (Version 3.103.6.2), (No ZEK device found on remote host)"
-                     "\n\n\n",
-              out);
+    EXPECT_EQ(
+        head +
+            "\n    rmtagent_zek agent found on 10.0.0.1, (Version 3.103.6.2), (No ZEK device found on remote host)"
+            "\n\n\n",
+        out);
     fake.api.remoteVersion[3] = 4;
     EXPECT_EQ(0, run("version cli -agent=10.0.0.1"));
     EXPECT_EQ(head + "\n    rmtagent_zek agent found on 10.0.0.1, (No ZEK device found on remote host)\n\n\n", out);

@@ -29,7 +29,7 @@ CmdAppendSet::CmdAppendSet()
                     "\tThe name of the set; names are kept in lower case. Everything that follows on the\n"
                     "\tcommand line is saved as the set's text.\n";
     helpExamples = ugCommandPrompt() + "-append=san2 -agent=192.168.1.20 -zek=1\n" + "\n" + ugOsPrompt() +
-                   "show lun -append=san2\n" + ugCommandPrompt() + "-append=san2\n";
+        "show lun -append=san2\n" + ugCommandPrompt() + "-append=san2\n";
     helpResultFile = "";
     helpNotes = "";
 }

@@ -3,5 +3,4 @@
 #include "core/TokenCmd.h"
 
 // Base of the commands that deal with time rather than with a device.
-class CmdTimeBase : public TokenCmd {
-};
+class CmdTimeBase : public TokenCmd {};

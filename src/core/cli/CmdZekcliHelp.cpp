@@ -34,7 +34,7 @@ CmdZekcliHelp::CmdZekcliHelp()
                     "\tWrites the help texts of all commands into fragment files whose names begin with\n"
                     "\tthe base file name and end in \".txt\".\n";
     helpExamples = ugCommandPrompt() + "\n" + ugCommandPrompt() + "-constraint\n" + ugCommandPrompt() +
-                   "-genhelpdoc=/tmp/help/cli\n";
+        "-genhelpdoc=/tmp/help/cli\n";
     helpResultFile = "";
     helpNotes = "";
 }
@@ -43,7 +43,8 @@ int CmdZekcliHelp::execCommand(std::string& err)
 {
     TokenRoot* const root = rootOfTree(this);
     TokenModifierString const* const genHelpDoc = findModifier(ModifierId::MODIFIER_GENHELPDOC, err);
-    TokenModifierString const* const constraint = genHelpDoc ? findModifier(ModifierId::MODIFIER_CONSTRAINT, err) : nullptr;
+    TokenModifierString const* const constraint =
+        genHelpDoc ? findModifier(ModifierId::MODIFIER_CONSTRAINT, err) : nullptr;
     if (!root || !constraint)
         return ZEKCLI_PARSE_FAIL;
     if (!genHelpDoc->isDefault)

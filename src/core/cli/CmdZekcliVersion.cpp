@@ -23,14 +23,14 @@ TokenInitializer::TOKEN_INITIALIZER const rows[] = {
 bool isExpectedLibrary(KLibraryVersionInfo const& version)
 {
     return version.versionMajor == 2 && version.versionMinor == 103 && version.versionPatch == 6 &&
-           version.versionBuild == 4;
+        version.versionBuild == 4;
 }
 
 // Agents are told apart by all but their first number.
 bool differsFromAgent(KLibraryVersionInfo const& local, KLibraryVersionInfo const& remote)
 {
     return local.versionMinor != remote.versionMinor || local.versionPatch != remote.versionPatch ||
-           local.versionBuild != remote.versionBuild;
+        local.versionBuild != remote.versionBuild;
 }
 
 std::string remoteAgentText(int code, bool agentGiven, std::string const& address, KLibraryVersionInfo const& local,
@@ -46,8 +46,8 @@ std::string remoteAgentText(int code, bool agentGiven, std::string const& addres
         if (!agentGiven)
             return "(No ZEK device found on local host)";
         return agentFound +
-               (differsFromAgent(local, remote) ? ", (Version " + remote.displayText() + ")" : std::string()) +
-               ", (No ZEK device found on remote host)";
+            (differsFromAgent(local, remote) ? ", (Version " + remote.displayText() + ")" : std::string()) +
+            ", (No ZEK device found on remote host)";
     case MHBA_S_OK:
         if (!agentGiven)
             return std::string();
@@ -71,8 +71,8 @@ CmdZekcliVersion::CmdZekcliVersion()
     helpSyntax = "\t[-name]";
     helpModifiers = "-name\n"
                     "\tPrints only the version text, with no line feed after it.\n";
-    helpExamples = ugCommandPrompt() + "\n" + ugCommandPrompt() + "-name\n" + ugCommandPrompt() +
-                   "-agent=192.168.1.20\n";
+    helpExamples =
+        ugCommandPrompt() + "\n" + ugCommandPrompt() + "-name\n" + ugCommandPrompt() + "-agent=192.168.1.20\n";
     helpResultFile = "";
     helpNotes = "";
 }
