@@ -2,9 +2,9 @@
 // identifier, symbolic name and scan, in that order.
 #include <gtest/gtest.h>
 
-#include "addressing/AddressingFixture_test.h"
 #include "records/KIsaAdapterPath.h"
 #include "records/PIpAddress.h"
+#include "support/AddressingFixture.h"
 
 using addressing_test::CountingApi;
 using addressing_test::Row;

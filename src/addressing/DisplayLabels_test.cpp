@@ -2,10 +2,10 @@
 // names and LUNs, byte for byte; and the keyword tests used for prompting.
 #include <gtest/gtest.h>
 
-#include "addressing/AddressingFixture_test.h"
 #include "records/KAdapterGroupExtendedLunInfo.h"
 #include "records/KInitiatorInfo.h"
 #include "records/PUniqueID.h"
+#include "support/AddressingFixture.h"
 
 using addressing_test::Row;
 using addressing_test::SimulatedSan;

@@ -5,11 +5,11 @@
 #include <climits>
 #include <ctime>
 
-#include "addressing/AddressingFixture_test.h"
-#include "core/FakeHbaMgmtApi_test.h"
 #include "records/PIpAddress.h"
 #include "records/PTime.h"
 #include "records/PUniqueID.h"
+#include "support/AddressingFixture.h"
+#include "support/FakeHbaMgmtApi.h"
 
 using addressing_test::TestCommand;
 

@@ -2,8 +2,8 @@
 // adapter, what comes back, and the exact words of every refusal.
 #include <gtest/gtest.h>
 
-#include "addressing/AddressingFixture_test.h"
 #include "records/PUniqueID.h"
+#include "support/AddressingFixture.h"
 
 using addressing_test::SimulatedSan;
 using addressing_test::TestCommand;

@@ -11,10 +11,10 @@
 
 #include <gtest/gtest.h>
 
-#include "api/ChildProcessForTests.h"
 #include "api/HbaMgmtApi.h"
 #include "api/MHbaReturnBuffer.h"
-#include "core/TempDirectory_test.h"
+#include "support/ChildProcess.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

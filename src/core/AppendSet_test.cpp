@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/AppendSet.h"
-#include "core/CoreTestTree_test.h"
+#include "support/CoreTestTree.h"
 
 using AppendSets = CoreTreeTest;
 

@@ -9,8 +9,8 @@
 #include <unistd.h>
 #include <vector>
 
-#include "core/TempDirectory_test.h"
 #include "core/zekcli.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

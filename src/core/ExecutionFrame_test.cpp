@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include "core/AdapterBanner.h"
-#include "core/CoreTestTree_test.h"
 #include "records/KIsaAdapterPath.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "core/CoreTestTree_test.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 

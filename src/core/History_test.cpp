@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <regex>
 
-#include "core/CoreTestTree_test.h"
+#include "support/CoreTestTree.h"
 
 class History : public CoreTreeTest {
 protected:

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/CoreTestTree_test.h"
 #include "core/MyMsgHandler.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/Parser.h"
-#include "core/TokenTreeFixture.h"
 #include "core/ZekcliReturn.h"
+#include "support/TokenTreeFixture.h"
 
 using testtree::Tree;
 

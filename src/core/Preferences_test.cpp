@@ -4,7 +4,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include "core/CoreTestTree_test.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 

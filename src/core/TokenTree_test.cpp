@@ -10,10 +10,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "core/TempDirectory_test.h"
 #include "core/TokenCmd.h"
 #include "core/TokenRoot.h"
-#include "core/TokenTreeFixture.h"
+#include "support/TempDirectory.h"
+#include "support/TokenTreeFixture.h"
 
 using namespace testtree;
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/FakeHbaMgmtApi_test.h"
 #include "core/ZekcliStats.h"
+#include "support/FakeHbaMgmtApi.h"
 
 TEST(ZekcliStats, KeepsOrderOfFirstAppearance)
 {

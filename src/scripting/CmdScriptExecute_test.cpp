@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "core/CoreTestTree_test.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CmdScriptExecute.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "api/Backend.h"
 
-#include "core/TempDirectory_test.h"
 #include "model/Codes.h"
 #include "model/Rules.h"
 #include "model/Scenario.h"
 #include "state/StateStore.h"
+#include "support/TempDirectory.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/Ids.h"
-#include "core/TempDirectory_test.h"
+#include "support/TempDirectory.h"
 
 #include "records/KAdapterGroupExtendedLunInfo.h"
 #include "records/KDriveInfo.h"

@@ -1,10 +1,10 @@
 #include "state/StateStore.h"
 
-#include "core/TempDirectory_test.h"
 #include "model/Codes.h"
 #include "model/Generate.h"
 #include "model/Rules.h"
 #include "model/Scenario.h"
+#include "support/TempDirectory.h"
 
 #include <gtest/gtest.h>
 

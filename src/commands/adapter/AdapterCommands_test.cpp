@@ -5,13 +5,13 @@
 
 #include <string>
 
-#include "../../tests/fixtures/support/FailingHbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/adapter/CmdNotificationShow.h"
 #include "commands/adapter/CmdNvdimmExecute.h"
 #include "commands/adapter/NvdimmSupport.h"
 #include "core/TokenRoot.h"
 #include "core/ZekcliReturn.h"
+#include "support/FailingHbaMgmtApi.h"
 
 namespace {
 

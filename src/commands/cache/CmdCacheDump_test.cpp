@@ -1,5 +1,5 @@
 #include "commands/cache/CmdCacheDump.h"
-#include "core/TempDirectory_test.h"
+#include "support/TempDirectory.h"
 
 #include <gtest/gtest.h>
 

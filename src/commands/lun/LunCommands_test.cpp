@@ -2,7 +2,6 @@
 // the lines of a target, the refusals, and a record that cannot be read.
 #include <gtest/gtest.h>
 
-#include "addressing/AddressingFixture_test.h"
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "api/MHbaReturnBuffer.h"
@@ -10,6 +9,7 @@
 #include "commands/lun/CmdLunShow.h"
 #include "records/KLunInfo.h"
 #include "records/PUniqueID.h"
+#include "support/AddressingFixture.h"
 
 using addressing_test::SimulatedSan;
 

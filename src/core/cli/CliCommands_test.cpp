@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/CoreTestTree_test.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 

@@ -5,10 +5,10 @@
 
 #include <string>
 
-#include "../../tests/fixtures/support/FailingHbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
 #include "records/KLibraryVersionInfo.h"
 #include "records/PIpAddress.h"
+#include "support/FailingHbaMgmtApi.h"
 
 class FakeHbaMgmtApi : public fixture::FailingHbaMgmtApi {
 public:

@@ -1,6 +1,6 @@
 // What the addressing tests share: a command that declares every keyword the
 // addressing operations read, and the simulated SAN loaded through the real
-// loader from a small scenario file of this folder's testdata.
+// loader from a small scenario file of src/addressing/testdata.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -16,10 +16,10 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
-#include "core/TempDirectory_test.h"
 #include "core/TokenCmd.h"
 #include "core/TokenInitializer.h"
 #include "records/KIsaAdapterPath.h"
+#include "support/TempDirectory.h"
 
 namespace addressing_test {
 
@@ -104,7 +104,7 @@ inline std::string readFile(std::filesystem::path const& path)
     return text.str();
 }
 
-// Loads the simulator with a scenario of this folder's testdata for the life
+// Loads the simulator with a scenario of src/addressing/testdata for the life
 // of a test. `faults` replaces the scenario's empty fault list, so one file
 // can serve a test that needs an adapter to misbehave.
 class SimulatedSan {

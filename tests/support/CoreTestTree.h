@@ -11,9 +11,7 @@
 #include <string>
 #include <unistd.h>
 
-#include "core/FakeHbaMgmtApi_test.h"
 #include "core/Parser.h"
-#include "core/TempDirectory_test.h"
 #include "core/TokenRoot.h"
 #include "core/cli/CmdAppendSet.h"
 #include "core/cli/CmdAppendShow.h"
@@ -23,6 +21,8 @@
 #include "core/cli/CmdZekcliQhelp.h"
 #include "core/cli/CmdZekcliRetval.h"
 #include "core/cli/CmdZekcliVersion.h"
+#include "support/FakeHbaMgmtApi.h"
+#include "support/TempDirectory.h"
 
 // A device command whose outcome a test decides: "show lun" with its own
 // -zek, as the real one declares it, writing a status record on success.
