@@ -102,33 +102,39 @@ std::vector<char*> commandVector(int argc, char** argv)
     return copy;
 }
 
-int runParsedLine(Parser& parser)
+void reportParseFailure(Parser const& parser, int rc, std::string const& err)
+{
+    std::string const lead =
+        rc == ZEKCLI_CONFIRM_FAIL ? std::string("(No action taken)") : "*** " + Parser::zekcliReturnToText(rc);
+    parser.root.outError(lead + "\n    " + err);
+}
+
+// The host's line: what scripts leave to their caller (printing a parse
+// failure, the hint when a keyword is missing, preferences and history) is
+// done here.
+int runHostLine(Parser& parser)
 {
     std::string err;
-    int const rc = parser.parseCommandLine(err);
-    if (rc != ZEKCLI_OK) {
-        std::string const text =
-            (rc == ZEKCLI_CONFIRM_FAIL ? std::string("(No action taken)") : "*** " + Parser::zekcliReturnToText(rc)) +
-            "\n    " + err;
-        parser.root.outError(text);
-        return rc;
-    }
-    if (parser.isHelpModifierOnCommandLine()) {
-        if (!parser.displayDetailedHelp(err))
+    Parser::LineOutcome const outcome = parser.runCommandLine(err, 0);
+    switch (outcome.step) {
+    case Parser::LineStep::ParseFailed:
+        reportParseFailure(parser, outcome.rc, err);
+        return outcome.rc;
+    case Parser::LineStep::HelpShown:
+        if (outcome.rc != ZEKCLI_OK)
             parser.root.outError(err);
         return ZEKCLI_OK;
+    case Parser::LineStep::NotReady:
+        std::puts("Use \"-?\" on the command line for help");
+        return ZEKCLI_OK;
+    case Parser::LineStep::Executed:
+        break;
     }
-    if (parser.isReadyToExec()) {
-        std::string out;
-        int const result = parser.execCommand(out, 0);
-        // State reaches the disk only after a successful command.
-        if (result == ZEKCLI_OK)
-            parser.save();
-        parser.updateCommandHistory(result, out);
-        return result;
-    }
-    std::puts("Use \"-?\" on the command line for help");
-    return rc;
+    // State reaches the disk only after a successful command.
+    if (outcome.rc == ZEKCLI_OK)
+        parser.save();
+    parser.updateCommandHistory(outcome.rc, err);
+    return outcome.rc;
 }
 
 } // namespace
@@ -222,7 +228,7 @@ int zekcli_runCommandLineInterface(int argc, char** argv)
         Parser parser;
         parser.getCommandLine(static_cast<int>(copy.size()), copy.data());
         parser.init();
-        return runParsedLine(parser);
+        return runHostLine(parser);
     } catch (std::exception const& e) {
         // Nothing may escape into the host; say what went wrong instead.
         std::printf("*** %s\n    %s\n", Parser::zekcliReturnToText(ZEKCLI_CMD_FAIL).c_str(), e.what());

@@ -7,7 +7,7 @@
 
 #include "api/HbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
-#include "core/CommandTable.h"
+#include "commands/CommandTable.h"
 #include "core/MyMsgHandler.h"
 #include "core/TextRules.h"
 #include "core/ZekcliReturn.h"
@@ -314,6 +314,21 @@ int Parser::parseCommandLine(std::string& err)
         return ZEKCLI_PARSE_FAIL;
     }
     return ZEKCLI_OK;
+}
+
+Parser::LineOutcome Parser::runCommandLine(std::string& err, unsigned int iteration)
+{
+    // A line that names no command (blank, say) must not run the previous
+    // line's command again.
+    currentCmd = nullptr;
+    int const rc = parseCommandLine(err);
+    if (rc != ZEKCLI_OK)
+        return {LineStep::ParseFailed, rc};
+    if (isHelpModifierOnCommandLine())
+        return {LineStep::HelpShown, displayDetailedHelp(err) ? ZEKCLI_OK : ZEKCLI_PARSE_FAIL};
+    if (!isReadyToExec())
+        return {LineStep::NotReady, ZEKCLI_OK};
+    return {LineStep::Executed, execCommand(err, iteration)};
 }
 
 bool Parser::isReadyToExec() const

@@ -37,6 +37,16 @@ public:
     static std::string addQuotesIfNeeded(std::string const& text);
     void initParsingTree();
 
+    // Running one line, for the entry point and for scripts alike: parse
+    // `commandLine`, then show help, or run the command if its required
+    // keywords are set. Each caller frames the outcome its own way.
+    enum class LineStep { ParseFailed, HelpShown, NotReady, Executed };
+    struct LineOutcome {
+        LineStep step;
+        int rc; // the parse's, the help's or the command's code
+    };
+    LineOutcome runCommandLine(std::string& err, unsigned int iteration);
+
     // Execution frame.
     int execCommand(std::string& err, unsigned int iteration);
     static std::string zekcliReturnToText(int code);

@@ -654,3 +654,43 @@ TEST(ParserScriptLine, HelpKeywordShowsHelpInsteadOfRunning)
     EXPECT_EQ(tree.showLun->runs, 0);
     EXPECT_NE(shown.find("Syntax: show lun\n"), std::string::npos) << shown;
 }
+
+// ---- one line, as the entry point and scripts run it --------------------------------------
+
+static Parser::LineOutcome runLine(Tree& tree, std::string const& line, std::string& err)
+{
+    tree.parser.commandLine = line;
+    testing::internal::CaptureStdout();
+    Parser::LineOutcome const outcome = tree.parser.runCommandLine(err, 1);
+    testing::internal::GetCapturedStdout();
+    return outcome;
+}
+
+TEST(ParserRunLine, SaysWhichStepTheLineReached)
+{
+    Tree tree;
+    std::string err;
+    EXPECT_EQ(runLine(tree, "show lun -frob", err).step, Parser::LineStep::ParseFailed);
+    EXPECT_EQ(runLine(tree, "show lun -?", err).step, Parser::LineStep::HelpShown);
+    EXPECT_EQ(runLine(tree, "version adapter", err).step, Parser::LineStep::NotReady);
+    EXPECT_EQ(runLine(tree, "help -quiet", err).step, Parser::LineStep::Executed);
+}
+
+TEST(ParserRunLine, CarriesTheCodeOfTheStepItReached)
+{
+    Tree tree;
+    tree.helpCli->answer = ZEKCLI_CMD_FAIL;
+    std::string err;
+    EXPECT_EQ(runLine(tree, "show lun -frob", err).rc, ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(runLine(tree, "version adapter", err).rc, ZEKCLI_OK);
+    EXPECT_EQ(runLine(tree, "help -quiet", err).rc, ZEKCLI_CMD_FAIL);
+}
+
+TEST(ParserRunLine, ALineWithoutCommandForgetsThePreviousOne)
+{
+    Tree tree;
+    std::string err;
+    runLine(tree, "help -quiet", err);
+    EXPECT_EQ(runLine(tree, "   ", err).step, Parser::LineStep::NotReady);
+    EXPECT_EQ(tree.parser.currentCmd, nullptr);
+}

@@ -119,16 +119,5 @@ int TokenRoot::execOneCommandLine(std::string const& line, std::string& err, uns
         return ZEKCLI_PARSE_FAIL;
     }
     parser->commandLine = line;
-    parser->root.initDefaultFlag();
-    // A line that names no command (blank, say) must not run the previous
-    // line's command again.
-    parser->currentCmd = nullptr;
-    int const rc = parser->parseCommandLine(err);
-    if (rc != ZEKCLI_OK)
-        return rc;
-    if (parser->isHelpModifierOnCommandLine())
-        return parser->displayDetailedHelp(err) ? ZEKCLI_OK : ZEKCLI_PARSE_FAIL;
-    if (parser->isReadyToExec())
-        return parser->execCommand(err, iteration);
-    return ZEKCLI_OK;
+    return parser->runCommandLine(err, iteration).rc;
 }

@@ -110,20 +110,14 @@ protected:
         root.initFromPrefFile(nullptr);
     }
 
-    // Parses and runs one line as the entry point does, with the console
-    // output captured.
+    // Parses and runs one line as the entry point and scripts do, with the
+    // console output captured.
     int run(std::string const& line)
     {
         err.clear();
         parser.commandLine = line;
         ::testing::internal::CaptureStdout();
-        int rc = parser.parseCommandLine(err);
-        if (rc == 0) {
-            if (parser.isHelpModifierOnCommandLine())
-                parser.displayDetailedHelp(err);
-            else if (parser.isReadyToExec())
-                rc = parser.execCommand(err, iteration);
-        }
+        int const rc = parser.runCommandLine(err, iteration).rc;
         fflush(stdout);
         out = ::testing::internal::GetCapturedStdout();
         return rc;

@@ -1,24 +1,23 @@
 #include "core/cli/CmdAppendSet.h"
 
+#include "commands/CommandDeclaration.h"
 #include "core/TokenRoot.h"
 #include "core/TreeRoot.h"
 #include "core/ZekcliReturn.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_SET, CmdItem::ITEM_APPEND, TokenCmd::GROUP_ORDINARY},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_APPEND, TokenModifier::REQUIRED,
-     TokenModifier::VALUE_REQUIRED},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_SET, CmdItem::ITEM_APPEND, TokenCmd::GROUP_ORDINARY),
+    keywordRow(ModifierId::MODIFIER_APPEND, TokenModifier::REQUIRED, TokenModifier::VALUE_REQUIRED),
+    endRow(),
 };
 
 } // namespace
 
 CmdAppendSet::CmdAppendSet()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Set Append";
     helpDescription = "Saves the rest of the command line under a name, as an append set. Any later command "
                       "given -append=<name> reads the saved keywords in place of that keyword. Given no text, "

@@ -1,5 +1,6 @@
 #include "core/cli/CmdAppendShow.h"
 
+#include "commands/CommandDeclaration.h"
 #include "core/AppendSet.h"
 #include "core/TokenRoot.h"
 #include "core/TreeRoot.h"
@@ -7,17 +8,16 @@
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_SHOW, CmdItem::ITEM_APPEND, TokenCmd::GROUP_ORDINARY},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_SHOW, CmdItem::ITEM_APPEND, TokenCmd::GROUP_ORDINARY),
+    endRow(),
 };
 
 } // namespace
 
 CmdAppendShow::CmdAppendShow()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Show Append";
     helpDescription = "Shows the saved append sets and their text, or the one set named by -append.";
     helpSyntax = "\t[-append=<name>]";

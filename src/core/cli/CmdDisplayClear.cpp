@@ -2,21 +2,21 @@
 
 #include <cstdlib>
 
+#include "commands/CommandDeclaration.h"
 #include "core/ZekcliReturn.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_CLEAR, CmdItem::ITEM_DISPLAY, TokenCmd::GROUP_ORDINARY},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_CLEAR, CmdItem::ITEM_DISPLAY, TokenCmd::GROUP_ORDINARY),
+    endRow(),
 };
 
 } // namespace
 
 CmdDisplayClear::CmdDisplayClear()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Clear Display";
     helpDescription = "Clears the terminal screen. Useful in scripts and interactive sessions before a new "
                       "display.";

@@ -4,17 +4,16 @@
 #include <cstdlib>
 #include <unistd.h>
 
+#include "commands/CommandDeclaration.h"
 #include "core/ZekcliReturn.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_WAIT, CmdItem::ITEM_TIME, TokenCmd::GROUP_ORDINARY},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_SECONDS, TokenModifier::OPTIONAL,
-     TokenModifier::VALUE_REQUIRED},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL,
-     TokenModifier::VALUE_REQUIRED},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_WAIT, CmdItem::ITEM_TIME, TokenCmd::GROUP_ORDINARY),
+    keywordRow(ModifierId::MODIFIER_SECONDS, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    keywordRow(ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    endRow(),
 };
 
 constexpr int kDefaultSeconds = 5;
@@ -26,8 +25,7 @@ constexpr char const* kWipeCountDown = "\r        \r";
 
 CmdTimeWait::CmdTimeWait()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Wait Time";
     helpDescription = "Waits for a number of seconds, counting down on the console. Useful in scripts, for "
                       "instance to let an adapter settle after a change before the next command.";

@@ -1,26 +1,24 @@
 #include "core/cli/CmdZekcliHelp.h"
 
+#include "commands/CommandDeclaration.h"
 #include "core/TokenRoot.h"
 #include "core/TreeRoot.h"
 #include "core/ZekcliReturn.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_HELP, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "~", ModifierId::MODIFIER_GENHELPDOC, TokenModifier::OPTIONAL,
-     TokenModifier::VALUE_REQUIRED},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "~", ModifierId::MODIFIER_CONSTRAINT, TokenModifier::OPTIONAL,
-     TokenModifier::VALUE_NONE},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_HELP, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY),
+    keywordRow(ModifierId::MODIFIER_GENHELPDOC, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED, "~"),
+    keywordRow(ModifierId::MODIFIER_CONSTRAINT, TokenModifier::OPTIONAL, TokenModifier::VALUE_NONE, "~"),
+    endRow(),
 };
 
 } // namespace
 
 CmdZekcliHelp::CmdZekcliHelp()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Help";
     helpDescription = "Lists every command of the CLI with its keywords, followed by the keywords that all "
                       "commands accept. With -constraint it lists only the commands that have usage "

@@ -1,21 +1,21 @@
 #include "core/cli/CmdZekcliQhelp.h"
 
+#include "commands/CommandDeclaration.h"
 #include "core/TokenRoot.h"
 #include "core/TreeRoot.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_QUESTION, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_QUESTION, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY),
+    endRow(),
 };
 
 } // namespace
 
 CmdZekcliQhelp::CmdZekcliQhelp()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Summary Help";
     helpDescription = "Lists every command of the CLI with its keywords, followed by the keywords that all "
                       "commands accept. The same list is shown by \"help cli\".";

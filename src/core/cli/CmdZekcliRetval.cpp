@@ -4,15 +4,15 @@
 
 #include "api/HbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
+#include "commands/CommandDeclaration.h"
 #include "core/ZekcliReturn.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_RETVAL, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_RV, TokenModifier::REQUIRED,
-     TokenModifier::VALUE_REQUIRED},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_RETVAL, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY),
+    keywordRow(ModifierId::MODIFIER_RV, TokenModifier::REQUIRED, TokenModifier::VALUE_REQUIRED),
+    endRow(),
 };
 
 // What the command line's own codes mean, in words a script author can use.
@@ -41,8 +41,7 @@ char const* ownReturnValueText(long code)
 
 CmdZekcliRetval::CmdZekcliRetval()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "Return Value";
     helpDescription = "Explains a return value of a CLI command. The CLI's own values are explained in words "
                       "and given back as the return value of this command, so that a script can test them; "

@@ -4,19 +4,18 @@
 
 #include "api/HbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
+#include "commands/CommandDeclaration.h"
 #include "core/ZekcliReturn.h"
 #include "records/KLibraryVersionInfo.h"
 #include "records/PIpAddress.h"
 
 namespace {
 
-TokenInitializer::TOKEN_INITIALIZER const rows[] = {
-    {1, Token::TOKEN_TYPE_CMD, "", "", CmdAction::ACTION_VERSION, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_NAME, TokenModifier::OPTIONAL,
-     TokenModifier::VALUE_NONE},
-    {2, Token::TOKEN_TYPE_MODIFIER, "", "", ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL,
-     TokenModifier::VALUE_REQUIRED},
-    {0, 0, "", "", 0, 0, 0},
+constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
+    commandRow(CmdAction::ACTION_VERSION, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY),
+    keywordRow(ModifierId::MODIFIER_NAME, TokenModifier::OPTIONAL, TokenModifier::VALUE_NONE),
+    keywordRow(ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
+    endRow(),
 };
 
 // The library generation this client was built for.
@@ -61,8 +60,7 @@ std::string remoteAgentText(int code, bool agentGiven, std::string const& addres
 
 CmdZekcliVersion::CmdZekcliVersion()
 {
-    init(TokenInitializer(rows[0]));
-    initModifiers(&rows[1]);
+    declareCommand(*this, rows);
     helpTitle = "CLI Version";
     helpDescription = "Shows the version of the CLI and, when it differs from what this CLI was built for, the "
                       "version of the HBA management library in use. With -agent it also reports whether the "

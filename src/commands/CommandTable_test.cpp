@@ -1,4 +1,4 @@
-#include "core/CommandTable.h"
+#include "commands/CommandTable.h"
 
 #include <gtest/gtest.h>
 
