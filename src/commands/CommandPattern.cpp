@@ -14,6 +14,14 @@ namespace {
 
 constexpr size_t kReplyBytes = 32;
 
+// The commands that scan start from nothing: the adapters and clusters of
+// earlier scans are dropped first.
+void forgetEarlierScans()
+{
+    g_pHbaMgmtApi->clearAdapters();
+    g_pHbaMgmtApi->clearClusters();
+}
+
 } // namespace
 
 int findAddressedAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err)
@@ -43,8 +51,7 @@ int findAdapterFromKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id, AddressedA
 int rescanFromAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err)
 {
     target.adapter = nullptr;
-    g_pHbaMgmtApi->clearAdapters();
-    g_pHbaMgmtApi->clearClusters();
+    forgetEarlierScans();
     uint32_t count = 0;
     int const rc = g_pHbaMgmtApi->scanFromAdapter(target.path, &count);
     if (rc != 0)
@@ -54,8 +61,7 @@ int rescanFromAdapter(TokenCmd& cmd, AddressedAdapter& target, std::string& err)
 
 int rescanAdapters(PIpAddress& agent, bool& noneFound)
 {
-    g_pHbaMgmtApi->clearAdapters();
-    g_pHbaMgmtApi->clearClusters();
+    forgetEarlierScans();
     uint32_t count = 0;
     int const rc = g_pHbaMgmtApi->scanAdapters(agent, &count);
     noneFound = rc == MHBA_E_NO_ADAPTER_FOUND;

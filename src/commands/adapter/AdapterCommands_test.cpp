@@ -8,7 +8,7 @@
 #include "api/HbaMgmtLoader.h"
 #include "commands/adapter/CmdNotificationShow.h"
 #include "commands/adapter/CmdNvdimmExecute.h"
-#include "commands/adapter/NvdimmSupport.h"
+#include "commands/adapter/NvdimmActions.h"
 #include "core/TokenRoot.h"
 #include "core/ZekcliReturn.h"
 #include "support/FailingHbaMgmtApi.h"

@@ -3,7 +3,7 @@
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/adapter/NvdimmSupport.h"
+#include "commands/adapter/NvdimmActions.h"
 #include "records/KNvdimmInfo.h"
 
 namespace {

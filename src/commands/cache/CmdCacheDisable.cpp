@@ -7,8 +7,8 @@
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/cache/CacheCommandSupport.h"
-#include "commands/lun/LunCommandSupport.h"
+#include "commands/LunLookup.h"
+#include "commands/cache/LunKeywordText.h"
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterPath.h"
 #include "records/KLunInfo.h"
@@ -94,7 +94,7 @@ int CmdCacheDisable::disableOnAdapter(HIsaAdapter& adapter, std::vector<PLunID>&
 {
     if (!filterLunIdListToOnePerMulipathLun(&adapter, ids, err))
         return ZEKCLI_PARSE_FAIL;
-    HLun* const held = findLunObject(adapter, ids.front());
+    HLun* const held = findLunObject(adapter, ids.front(), LunGathering::EveryTarget);
     if (!held) {
         err = "LUN not found";
         return MHBA_E_OBJECT_NOT_FOUND;

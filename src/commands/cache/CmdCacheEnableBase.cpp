@@ -5,8 +5,8 @@
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandPattern.h"
-#include "commands/cache/CacheCommandSupport.h"
-#include "commands/lun/LunCommandSupport.h"
+#include "commands/LunLookup.h"
+#include "commands/cache/LunKeywordText.h"
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterInfo.h"
 #include "records/KIsaAdapterPath.h"
@@ -155,7 +155,7 @@ int CmdCacheEnableBase::base_execCommand(bool bModify, PLunID& lun, std::string&
     if (int const rc = resolveOneLun(*adapter, lun, err))
         return rc;
 
-    HLun* const held = findLunObject(*adapter, lun);
+    HLun* const held = findLunObject(*adapter, lun, LunGathering::EveryTarget);
     if (!held) {
         err = "LUN not found";
         return MHBA_E_OBJECT_NOT_FOUND;

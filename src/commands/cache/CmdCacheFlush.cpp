@@ -9,7 +9,7 @@
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/cache/CacheCommandSupport.h"
+#include "commands/LunLookup.h"
 #include "core/ZekcliReturn.h"
 #include "records/KLunInfo.h"
 #include "records/PUniqueID.h"
@@ -86,7 +86,7 @@ int CmdCacheFlush::execCommand(std::string& err)
 int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, bool& shown, int& code,
                                std::string& err)
 {
-    HLun* const held = findLunObject(adapter, lun);
+    HLun* const held = findLunObject(adapter, lun, LunGathering::EveryTarget);
     if (!held)
         return 0;
     if (int const rc = readLunRecord(*held))

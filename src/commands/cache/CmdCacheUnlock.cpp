@@ -4,10 +4,10 @@
 #include <string>
 
 #include "api/HbaMgmtInterfaces.h"
+#include "commands/cache/LbaRangeRequest.h"
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/cache/CacheCommandSupport.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/lun/LunCommandSupport.h"
+#include "commands/lun/LunSettings.h"
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterPath.h"
 #include "records/PUniqueID.h"

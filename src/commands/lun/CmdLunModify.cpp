@@ -5,7 +5,8 @@
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/lun/LunCommandSupport.h"
+#include "commands/LunLookup.h"
+#include "commands/lun/LunSettings.h"
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterPath.h"
 #include "records/KLunInfo.h"
@@ -72,7 +73,7 @@ int CmdLunModify::execCommand(std::string& err)
         return rc;
     PLunID const lun = ids.front();
 
-    HLun* const held = findLunGatheringIfNeeded(addressed.adapter, lun);
+    HLun* const held = findLunObject(*addressed.adapter, lun, LunGathering::PathTarget);
     if (!held) {
         err.clear();
         return MHBA_E_OBJECT_NOT_FOUND;

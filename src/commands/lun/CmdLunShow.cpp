@@ -6,8 +6,10 @@
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
+#include "commands/CountedRecordBuffer.h"
 #include "commands/KeywordHelp.h"
-#include "commands/lun/LunCommandSupport.h"
+#include "commands/LunLookup.h"
+#include "commands/lun/LunOutcomeTally.h"
 #include "core/ZekcliReturn.h"
 #include "records/KAdapterGroupExtendedLunInfo.h"
 #include "records/KIsaAdapterPath.h"
@@ -132,7 +134,7 @@ int CmdLunShow::showThroughAdapterGroup(std::string& err)
 int CmdLunShow::showOneLun(HIsaAdapter* adapter, PLunID const& lun, std::string& text, std::vector<KLunInfo>& infos,
                            std::string& err)
 {
-    HLun* const held = findLunGatheringIfNeeded(adapter, lun);
+    HLun* const held = findLunObject(*adapter, lun, LunGathering::PathTarget);
     if (!held) {
         err = "LUN \"" + lun.displayText() + "\" not found";
         return MHBA_E_OBJECT_NOT_FOUND;

@@ -1,4 +1,4 @@
-#include "commands/adapter/NvdimmSupport.h"
+#include "commands/adapter/NvdimmActions.h"
 
 #include <iterator>
 

@@ -1,59 +1,18 @@
-#include "commands/cache/CacheCommandSupport.h"
+#include "commands/cache/LbaRangeRequest.h"
 
 #include <vector>
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
+#include "commands/cache/LunKeywordText.h"
 #include "core/TokenCmd.h"
 #include "core/ZekcliReturn.h"
-#include "records/KLunInfo.h"
 
 namespace {
 
 constexpr long long kLargestLba = 0x7FFFFFFFFFFFFFFFll;
 
-// Fills the adapter's LUN collection from all its targets. A target that
-// cannot list its LUNs is passed over: the lookup that follows simply does
-// not find what it would have held.
-void gatherAllLuns(HIsaAdapter& adapter)
-{
-    MHbaReturnBuffer firstError;
-    e_MHBA_RETURN const gathered = adapter.getTargetsAndInitiators(&firstError);
-    if (gathered != MHBA_S_OK && gathered != MHBA_S_PARTIAL_SUCCESS)
-        return;
-    for (HTarget* target : adapter.getTargets()->items) {
-        MHbaReturnBuffer lunError;
-        adapter.getLunsForSpecificTarget(target, &lunError);
-    }
-}
-
 } // namespace
-
-HLun* findLunObject(HIsaAdapter& adapter, PLunID const& lun)
-{
-    if (HLun* const held = adapter.getLuns()->find(lun))
-        return held;
-    gatherAllLuns(adapter);
-    return adapter.getLuns()->find(lun);
-}
-
-int readLunRecord(HLun& lun)
-{
-    if (lun.getLunInfo()->isLunInfoValid())
-        return 0;
-    return lun.refreshLunInfo();
-}
-
-std::string targetKeyword(bool iscsi)
-{
-    return iscsi ? " -is_target=" : " -fc_target=";
-}
-
-std::string lunKeywordText(PLunID const& lun)
-{
-    return targetKeyword(lun.targetID().isIscsiTargetId()) + lun.targetID().displayText() +
-        " -lun_number=" + PBase::numberToText(lun.lunNumber());
-}
 
 int readLbaRangeRequest(TokenCmd& cmd, LbaRangeRequest& request, std::string& err)
 {

@@ -1,4 +1,4 @@
-#include "commands/cache/CacheCommandSupport.h"
+#include "commands/cache/LunKeywordText.h"
 
 #include <gtest/gtest.h>
 
@@ -22,18 +22,18 @@ PLunID iscsiLun(int number)
     return lun;
 }
 
-TEST(CacheCommandSupport, TargetKeywordFollowsTheProtocol)
+TEST(LunKeywordText, TargetKeywordFollowsTheProtocol)
 {
     EXPECT_EQ(targetKeyword(true), " -is_target=");
     EXPECT_EQ(targetKeyword(false), " -fc_target=");
 }
 
-TEST(CacheCommandSupport, FibreChannelLunIsNamedByTargetAndNumber)
+TEST(LunKeywordText, FibreChannelLunIsNamedByTargetAndNumber)
 {
     EXPECT_EQ(lunKeywordText(fcLun(7)), " -fc_target=5006-0160-39A0-1122 -lun_number=7");
 }
 
-TEST(CacheCommandSupport, IscsiLunIsNamedWithTheIscsiKeyword)
+TEST(LunKeywordText, IscsiLunIsNamedWithTheIscsiKeyword)
 {
     EXPECT_EQ(lunKeywordText(iscsiLun(0)), " -is_target=iqn.2004-04.com.example:t1 -lun_number=0");
 }

@@ -1,0 +1,52 @@
+#include "commands/CountedRecordBuffer.h"
+
+#include "api/MhbaReturn.h"
+#include "core/TokenCmd.h"
+#include "core/ZekcliReturn.h"
+#include "records/PBase.h"
+
+namespace {
+
+constexpr uint32_t kHeaderBytes = 8;
+constexpr size_t kCountOffset = 4;
+
+} // namespace
+
+CountedRecordBuffer::CountedRecordBuffer()
+{
+    appendInt32(kHeaderBytes);
+    appendInt32(0);
+}
+
+void CountedRecordBuffer::appendImage(void const* image, unsigned int imageSize)
+{
+    appendInt32(imageSize + 4);
+    unsigned char const* const first = static_cast<unsigned char const*>(image);
+    bytes.insert(bytes.end(), first, first + imageSize);
+    storeInt32(kCountOffset, ++count);
+}
+
+void CountedRecordBuffer::appendInt32(uint32_t value)
+{
+    bytes.resize(bytes.size() + sizeof value);
+    storeInt32(bytes.size() - sizeof value, value);
+}
+
+void CountedRecordBuffer::storeInt32(size_t at, uint32_t value)
+{
+    // Native order: the buffer is read back on the machine that wrote it.
+    PBase::fastMemcpy(bytes.data() + at, sizeof value, &value, sizeof value);
+}
+
+int writeCountedBuffer(TokenCmd const& cmd, int code, CountedRecordBuffer const& buffer, std::string& err)
+{
+    if (!cmd.outResult(static_cast<e_MHBA_RETURN>(code), buffer.data(), buffer.size(), err))
+        return ZEKCLI_OUTPUT_FAIL;
+    return 0;
+}
+
+int writeResultWithoutData(TokenCmd const& cmd, std::string& err)
+{
+    cmd.outResult(static_cast<e_MHBA_RETURN>(ZEKCLI_OUTPUT_FAIL), nullptr, 0, err);
+    return ZEKCLI_OUTPUT_FAIL;
+}
