@@ -4,6 +4,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
+#include "commands/CommandOutput.h"
 #include "core/Token.h"
 #include "core/TokenCmd.h"
 #include "core/ZekcliReturn.h"
@@ -97,13 +98,13 @@ bool reachedThroughAgent(KIsaAdapterPath const& path)
 
 int finishCommand(TokenCmd const& cmd, HIsaAdapter* adapter, CommandReport const& report, std::string& err)
 {
-    if (report.banner && !cmd.displayIpAddress(adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    if (!cmd.outDisplay(report.text, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    if (report.writeResult && !cmd.outResult(report.resultCode, report.data, report.size, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    return 0;
+    CommandOutput out(cmd);
+    if (report.banner)
+        out.banner(adapter);
+    out.line(report.text);
+    if (report.writeResult)
+        out.result(report.resultCode, report.data, report.size);
+    return out.end(0, err);
 }
 
 std::string readReplyLine(FILE* in)

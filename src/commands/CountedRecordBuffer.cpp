@@ -1,7 +1,5 @@
 #include "commands/CountedRecordBuffer.h"
 
-#include "api/MhbaReturn.h"
-#include "core/TokenCmd.h"
 #include "core/ZekcliReturn.h"
 #include "records/PBase.h"
 
@@ -38,15 +36,8 @@ void CountedRecordBuffer::storeInt32(size_t at, uint32_t value)
     PBase::fastMemcpy(bytes.data() + at, sizeof value, &value, sizeof value);
 }
 
-int writeCountedBuffer(TokenCmd const& cmd, int code, CountedRecordBuffer const& buffer, std::string& err)
+void writeResultWithoutData(CommandOutput& out)
 {
-    if (!cmd.outResult(static_cast<e_MHBA_RETURN>(code), buffer.data(), buffer.size(), err))
-        return ZEKCLI_OUTPUT_FAIL;
-    return 0;
-}
-
-int writeResultWithoutData(TokenCmd const& cmd, std::string& err)
-{
-    cmd.outResult(static_cast<e_MHBA_RETURN>(ZEKCLI_OUTPUT_FAIL), nullptr, 0, err);
-    return ZEKCLI_OUTPUT_FAIL;
+    out.result(ZEKCLI_OUTPUT_FAIL);
+    out.fail("Not enough memory for the result record");
 }

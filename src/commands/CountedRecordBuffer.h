@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-class TokenCmd;
+#include "commands/CommandOutput.h"
 
 class CountedRecordBuffer {
 public:
@@ -34,21 +34,22 @@ private:
     uint32_t count = 0;
 };
 
-int writeCountedBuffer(TokenCmd const& cmd, int code, CountedRecordBuffer const& buffer, std::string& err);
-// The result record of a buffer that could not be built: code 55, no data.
-int writeResultWithoutData(TokenCmd const& cmd, std::string& err);
+// The result record of a buffer that could not be built: code 55, no data,
+// and the output fails.
+void writeResultWithoutData(CommandOutput& out);
 
-// Writes the records as a counted buffer to the result channel. A buffer
-// that cannot be allocated makes the result code 55 with no data. Returns
-// 0, or 55 when the result could not be written.
+// Writes the records as a counted buffer as the command's result record. A
+// buffer that cannot be allocated gives the result code 55 with no data.
+// True while the output is whole.
 template <typename Record>
-int writeCountedResult(TokenCmd const& cmd, int code, std::vector<Record> const& records, std::string& err)
+bool writeCountedResult(CommandOutput& out, int code, std::vector<Record> const& records)
 {
     try {
         CountedRecordBuffer buffer;
         buffer.appendAll(records);
-        return writeCountedBuffer(cmd, code, buffer, err);
+        return out.result(code, buffer.data(), buffer.size());
     } catch (std::bad_alloc const&) {
-        return writeResultWithoutData(cmd, err);
+        writeResultWithoutData(out);
+        return false;
     }
 }

@@ -7,6 +7,7 @@
 
 #include "api/MhbaReturn.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "core/TokenRoot.h"
 #include "core/TreeRoot.h"
 #include "core/ZekcliReturn.h"
@@ -148,22 +149,13 @@ int CmdScriptExecute::reportRun(std::string const& scriptPath, int failing, std:
 {
     // The failing line's own message stays in `err` for the caller to show;
     // only a failure of this output replaces it.
-    std::string outputErr;
-    if (!displayIpAddress(nullptr, outputErr)) {
-        err = outputErr;
-        return ZEKCLI_OUTPUT_FAIL;
-    }
+    CommandOutput out(*this);
     std::string const outcome = failing != ZEKCLI_OK ? "\" failed to complete" : "\" completed OK";
-    if (!outDisplay("Script \"" + scriptPath + outcome, outputErr)) {
-        err = outputErr;
-        return ZEKCLI_OUTPUT_FAIL;
-    }
+    if (!out.banner(nullptr) || !out.line("Script \"" + scriptPath + outcome))
+        return out.end(failing, err);
     outError(rootOfTree(this)->stats.displayText());
-    if (!outResult(failing != ZEKCLI_OK ? MHBA_E_FAILURE : MHBA_S_OK, nullptr, 0, outputErr)) {
-        err = outputErr;
-        return ZEKCLI_OUTPUT_FAIL;
-    }
-    return failing;
+    out.result(failing != ZEKCLI_OK ? MHBA_E_FAILURE : MHBA_S_OK);
+    return out.end(failing, err);
 }
 
 int CmdScriptExecute::execCommand(std::string& err)

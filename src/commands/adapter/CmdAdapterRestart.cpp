@@ -4,6 +4,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "commands/adapter/RestartWait.h"
@@ -37,8 +38,9 @@ int CmdAdapterRestart::execCommand(std::string& err)
         return rc;
     if (int const rc = target.adapter->restart(1))
         return rc;
-    if (!displayIpAddress(target.adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    CommandOutput out(*this);
+    if (!out.banner(target.adapter))
+        return out.end(0, err);
 
     RestartWait wait;
     KIsaAdapterInfo info;
@@ -48,5 +50,7 @@ int CmdAdapterRestart::execCommand(std::string& err)
         outError("\n\n*** " + Parser::zekcliReturnToText(ZEKCLI_TIMEOUT) + "-- " + " Adapter restarts timeout.\n");
         return 0;
     }
-    return finishCommand(*this, target.adapter, CommandReport::withoutBanner(" Adapter restarting completed\n"), err);
+    out.line(" Adapter restarting completed\n");
+    out.result(MHBA_S_OK);
+    return out.end(0, err);
 }

@@ -2,6 +2,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/KeywordHelp.h"
 #include "commands/adapter/FileCommand.h"
 #include "core/ZekcliReturn.h"
@@ -37,9 +38,9 @@ int CmdFirmwareUpdate::execCommand(std::string& err)
         return rc;
     e_MHBA_RETURN const rc = target.adapter->updateFirmware(file.c_str());
     if (rc > MHBA_S_OK_REBOOT_REQUIRED) {
-        if (!displayIpAddress(target.adapter, err))
-            return ZEKCLI_OUTPUT_FAIL;
-        return rc;
+        CommandOutput out(*this);
+        out.banner(target.adapter);
+        return out.end(rc, err);
     }
     CommandReport report;
     report.text = rc == MHBA_S_OK_REBOOT_REQUIRED

@@ -8,6 +8,7 @@
 #include "api/HbaMgmtLoader.h"
 #include "api/KAdapterEventNotificationInfo.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "core/ZekcliReturn.h"
 
 namespace {
@@ -65,22 +66,22 @@ int CmdNotificationShow::execCommand(std::string& err)
     if (int const rc = g_pHbaMgmtApi->registerAenCallback(aenCallback))
         return rc;
 
+    CommandOutput out(*this);
     if (seconds == 0) {
         e_MHBA_RETURN const rc = g_pHbaMgmtApi->pollAenEvents();
         if (rc != MHBA_S_OK)
             return rc;
-        if (!outResult(MHBA_S_OK, nullptr, 0, err))
-            return ZEKCLI_OUTPUT_FAIL;
-        g_pHbaMgmtApi->unregisterAenCallback(aenCallback);
-        return 0;
+        if (out.result(MHBA_S_OK))
+            g_pHbaMgmtApi->unregisterAenCallback(aenCallback);
+        return out.end(0, err);
     }
     // Watches until the library fails or the user interrupts the process.
     for (long long elapsed = 0;;) {
         if (int const rc = g_pHbaMgmtApi->pollAenEvents())
             return rc;
         elapsed += seconds;
-        if (!outDisplay(elapsedText(elapsed), err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!out.line(elapsedText(elapsed)))
+            return out.end(0, err);
         sleep(static_cast<unsigned int>(seconds));
     }
 }

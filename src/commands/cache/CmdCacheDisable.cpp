@@ -80,11 +80,8 @@ int CmdCacheDisable::execCommand(std::string& err)
     if (rc != 0)
         return rc;
 
-    if (!displayIpAddress(addressed.adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
     PLunID const first = ids.empty() ? PLunID() : ids.front();
     CommandReport report;
-    report.banner = false;
     report.text = "Successfully disabled caching for LUN  " + targetKeyword(iscsiKeyword) +
         first.targetID().displayText() + " -lun_number=" + PBase::numberToText(first.lunNumber()) + "\n";
     return finishCommand(*this, addressed.adapter, report, err);

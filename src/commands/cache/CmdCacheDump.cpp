@@ -8,6 +8,7 @@
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "core/Token.h"
@@ -97,18 +98,19 @@ int CmdCacheDump::dumpRepeatedly(HIsaAdapter& adapter, std::string const& folder
                                  std::string& err)
 {
     // Runs until the process is interrupted; each round on a clean screen.
+    CommandOutput out(*this);
     for (;;) {
         // Without a clear screen the rounds simply follow one another.
         (void)std::system("clear");
-        if (!displayIpAddress(&adapter, err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!out.banner(&adapter))
+            return out.end(0, err);
         std::string const path = folder + "/" + getCacheInfoFileName(adapter.getAdapterPath()->hbaIDText());
         e_MHBA_RETURN const rc = adapter.saveCacheDump(kCacheSummaryDump, path);
         if (g_pHbaMgmtApi->isFailure(rc))
             return rc;
         std::string const text = displayCacheInfoFile(path) + "\n";
-        if (!outDisplay(text, err) || !outDisplay(text, err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!out.line(text) || !out.line(text))
+            return out.end(0, err);
         // The loop only ends with the process, so a round's text must not
         // wait in a buffer that a kill would throw away.
         fflush(stdout);

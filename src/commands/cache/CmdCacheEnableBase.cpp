@@ -4,6 +4,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/LunLookup.h"
 #include "commands/cache/LunKeywordText.h"
@@ -124,8 +125,8 @@ int CmdCacheEnableBase::runCacheCommand(bool bModify, std::string& err)
             std::string(bModify ? "Successfully modified caching for LUN " : "Successfully enabled caching for LUN ") +
             lunKeywordText(lun) + "\n";
     report.resultCode = static_cast<e_MHBA_RETURN>(rc);
-    if (finishCommand(*this, nullptr, report, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    if (int const written = finishCommand(*this, nullptr, report, err))
+        return written;
     return rc;
 }
 
@@ -196,9 +197,13 @@ int CmdCacheEnableBase::base_execCommand(bool bModify, PLunID& lun, std::string&
         explainRefusal(rc, err);
         return rc;
     }
-    if (!displayIpAddress(adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    return rc;
+    // The change is made: a failed banner is reported by the caller's result
+    // record, and a success with a note (restart needed, partial) is told by
+    // its code alone.
+    CommandOutput out(*this);
+    out.banner(adapter);
+    err.clear();
+    return out.end(rc, err);
 }
 
 int CmdCacheEnableBase::readProfile(CacheRequest& request, std::string& err)

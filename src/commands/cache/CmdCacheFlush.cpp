@@ -7,6 +7,7 @@
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "commands/LunLookup.h"
@@ -61,30 +62,25 @@ int CmdCacheFlush::execCommand(std::string& err)
     TokenModifierString const* const sync = findModifier(ModifierId::MODIFIER_SYNC, err);
     if (!sync)
         return ZEKCLI_PARSE_FAIL;
-    if (!displayIpAddress(addressed.adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    CommandOutput out(*this);
+    if (!out.banner(addressed.adapter))
+        return out.end(0, err);
 
     int code = 0;
-    if (ids.empty()) {
-        if (!outDisplay(noLuns, err))
-            return ZEKCLI_OUTPUT_FAIL;
-    } else {
-        for (PLunID const& lun : ids) {
-            bool shown = true;
-            if (int const rc = flushOneLun(*addressed.adapter, lun, keywordGiven(sync), shown, code, err))
-                return rc;
-            // Output that cannot be written ends the walk; the result record still tells.
-            if (!shown)
-                break;
-        }
+    if (ids.empty())
+        out.line(noLuns);
+    for (PLunID const& lun : ids) {
+        if (int const rc = flushOneLun(out, *addressed.adapter, lun, keywordGiven(sync), code))
+            return rc;
+        // Output that cannot be written ends the walk: no further LUN is flushed.
+        if (!out.ok())
+            break;
     }
-    if (!outResult(static_cast<e_MHBA_RETURN>(code), nullptr, 0, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    return 0;
+    out.result(code);
+    return out.end(0, err);
 }
 
-int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, bool& shown, int& code,
-                               std::string& err)
+int CmdCacheFlush::flushOneLun(CommandOutput& out, HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, int& code)
 {
     HLun* const held = findLunObject(adapter, lun, LunGathering::EveryTarget);
     if (!held)
@@ -93,33 +89,31 @@ int CmdCacheFlush::flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool wai
         return rc;
     KLunInfo const& info = *held->getLunInfo();
     if (info.eLunType() != KLunInfo::LUN_TYPE_DIRECT_ACCESS) {
-        shown = outDisplay(lun.displayTextWithoutVpGroup() + " NOT flushed, (" +
-                               KLunInfo::lunTypeToText(info.eLunType()) + ")\n",
-                           err);
+        out.line(lun.displayTextWithoutVpGroup() + " NOT flushed, (" + KLunInfo::lunTypeToText(info.eLunType()) +
+                 ")\n");
         return 0;
     }
     if (!info.isLunCached()) {
-        shown = outDisplay(lun.displayText() + " NOT flushed, (SAN Data LUN is not cached)\n", err);
+        out.line(lun.displayText() + " NOT flushed, (SAN Data LUN is not cached)\n");
         return 0;
     }
     code = adapter.startCacheFlush(lun);
     if (code != 0) {
-        shown = outDisplay(lun.displayText() + " NOT flushed, (" + g_pHbaMgmtApi->returnCodeToText(code) + ")\n", err);
+        out.line(lun.displayText() + " NOT flushed, (" + g_pHbaMgmtApi->returnCodeToText(code) + ")\n");
         // Already told in its line; the other LUNs are flushed all the same.
         code = 0;
         return 0;
     }
     if (!waitForEnd) {
-        shown = outDisplay(lun.displayText() + " started flushing\n", err);
+        out.line(lun.displayText() + " started flushing\n");
         return 0;
     }
-    return waitForFlushEnd(adapter, lun, shown, code, err);
+    return waitForFlushEnd(out, adapter, lun, code);
 }
 
-int CmdCacheFlush::waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool& shown, int& code, std::string& err)
+int CmdCacheFlush::waitForFlushEnd(CommandOutput& out, HIsaAdapter& adapter, PLunID const& lun, int& code)
 {
-    shown = outDisplay(lun.displayText(), err);
-    if (!shown)
+    if (!out.line(lun.displayText()))
         return 0;
     // The device alone says when the flush is over: a flush of much dirty
     // data may take long, and cutting the wait short would report it done.
@@ -131,6 +125,6 @@ int CmdCacheFlush::waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool
         putchar('.');
         sleep(kFlushPollSeconds);
     } while (inProgress != 0);
-    shown = outDisplay(" flushing completed\n", err);
+    out.line(" flushing completed\n");
     return 0;
 }

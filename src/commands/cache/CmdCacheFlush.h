@@ -6,6 +6,8 @@
 
 #include "core/TokenCmd.h"
 
+class CommandOutput;
+
 class CmdCacheFlush : public TokenCmd {
 public:
     CmdCacheFlush();
@@ -13,9 +15,9 @@ public:
     int execCommand(std::string& err) override;
 
 private:
-    // A non-zero result ends the command with that code. `shown` is false
-    // when the LUN's line could not be written; `code` is what the result
-    // record reports.
-    int flushOneLun(HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, bool& shown, int& code, std::string& err);
-    int waitForFlushEnd(HIsaAdapter& adapter, PLunID const& lun, bool& shown, int& code, std::string& err);
+    // A non-zero result ends the command with that code. A line that could
+    // not be written is remembered by `out`; `code` is what the result record
+    // reports.
+    int flushOneLun(CommandOutput& out, HIsaAdapter& adapter, PLunID const& lun, bool waitForEnd, int& code);
+    int waitForFlushEnd(CommandOutput& out, HIsaAdapter& adapter, PLunID const& lun, int& code);
 };

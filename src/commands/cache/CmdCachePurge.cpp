@@ -4,6 +4,7 @@
 
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "core/ZekcliReturn.h"
@@ -62,8 +63,9 @@ int CmdCachePurge::execCommand(std::string& err)
     std::vector<PLunID> ids;
     if (!getLunIdFromCommandLine(addressed.adapter, false, true, ids, err))
         return ZEKCLI_PARSE_FAIL;
-    if (!outDisplay(lunCountWarning(ids), err))
-        return ZEKCLI_OUTPUT_FAIL;
+    CommandOutput out(*this);
+    if (!out.line(lunCountWarning(ids)))
+        return out.end(0, err);
 
     TokenModifierString const* const acceptRisk = findModifier(ModifierId::MODIFIER_ACCEPT_RISK, err);
     if (!acceptRisk)
@@ -76,8 +78,7 @@ int CmdCachePurge::execCommand(std::string& err)
                                                             KLunCacheInfo::CACHE_PROFILE_DEFAULT, 0, 0, 0, 0, 0, 0);
     if (rc != MHBA_S_OK)
         return rc;
-    CommandReport report;
-    report.banner = false;
-    report.text = "Successfully started purge for LUN " + lun.displayText() + "\n";
-    return finishCommand(*this, addressed.adapter, report, err);
+    out.line("Successfully started purge for LUN " + lun.displayText() + "\n");
+    out.result(MHBA_S_OK);
+    return out.end(0, err);
 }

@@ -4,6 +4,7 @@
 #include "api/HbaMgmtLoader.h"
 #include "api/MHbaReturnBuffer.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/CountedRecordBuffer.h"
 #include "commands/KeywordHelp.h"
@@ -86,9 +87,11 @@ int CmdLunList::listThroughOneAdapter(std::string& err)
     for (PTargetID const& target : targets)
         if (int const rc = listLunsForOneTarget(adapter, target, text, luns, err))
             return rc;
-    if (!displayIpAddress(adapter, err) || !outDisplay(text + "\n\n", err))
-        return ZEKCLI_OUTPUT_FAIL;
-    return writeCountedResult(*this, gathered, luns, err);
+    CommandOutput out(*this);
+    out.banner(adapter);
+    out.line(text + "\n\n");
+    writeCountedResult(out, gathered, luns);
+    return out.end(0, err);
 }
 
 int CmdLunList::listThroughAdapterGroup(std::string& err)
@@ -98,12 +101,13 @@ int CmdLunList::listThroughAdapterGroup(std::string& err)
         return rc;
     // One pasteable line per LUN and nothing else, so the adapters that see
     // each LUN (the group's header) are not shown here.
+    CommandOutput out(*this);
     for (KAdapterGroupExtendedLunInfo const& info : g_pHbaMgmtApi->getAdapterGroupLuns()->items)
-        if (!outDisplay(getDisplayText_AdapterGroupLun(info), err))
-            return ZEKCLI_OUTPUT_FAIL;
+        out.line(getDisplayText_AdapterGroupLun(info));
     // This view is of LUNs across adapters, not of one adapter's paths, so
     // the result holds no paths.
-    return writeCountedResult(*this, 0, std::vector<PLunID>(), err);
+    writeCountedResult(out, 0, std::vector<PLunID>());
+    return out.end(0, err);
 }
 
 int CmdLunList::listLunsForOneTarget(HIsaAdapter* adapter, PTargetID const& target, std::string& text,

@@ -3,6 +3,7 @@
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "commands/LunLookup.h"
@@ -96,8 +97,11 @@ int CmdLunModify::execCommand(std::string& err)
     HIsaAdapter* const adapter = g_pHbaMgmtApi->getAdapters()->find(addressed.path);
     if (!adapter)
         return MHBA_E_ADAPTER_NOT_IN_COLLECTION;
-    if (!displayIpAddress(adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    CommandOutput out(*this);
+    if (!out.banner(adapter))
+        return out.end(0, err);
+    // The adapter's refusal is told by its code alone.
+    err.clear();
 
     int rc = 0;
     if (change.size)
@@ -111,12 +115,10 @@ int CmdLunModify::execCommand(std::string& err)
     if (g_pHbaMgmtApi->isFailure(rc))
         return rc;
 
-    CommandReport report;
-    report.banner = false;
-    report.text = "Successfully modified LUN  " + lun.targetID().displayText() +
-        " -lun_number=" + PBase::numberToText(lun.lunNumber()) + "\n";
-    report.resultCode = static_cast<e_MHBA_RETURN>(rc);
-    return finishCommand(*this, adapter, report, err);
+    out.line("Successfully modified LUN  " + lun.targetID().displayText() +
+             " -lun_number=" + PBase::numberToText(lun.lunNumber()) + "\n");
+    out.result(rc);
+    return out.end(0, err);
 }
 
 int CmdLunModify::readChange(KLunInfo const& info, LunChange& change, std::string& err)

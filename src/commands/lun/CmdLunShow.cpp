@@ -1,10 +1,12 @@
 #include "commands/lun/CmdLunShow.h"
 
 #include <cstring>
+#include <utility>
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/CountedRecordBuffer.h"
 #include "commands/KeywordHelp.h"
@@ -85,12 +87,12 @@ int CmdLunShow::showThroughOneAdapter(std::string& err)
     if (int const rc = findAdapterAndLuns(*this, addressed, false, ids, err))
         return rc;
     // What the resolution had to say (no LUNs, a partial gathering) leads the output.
-    std::string text = err;
-    err.clear();
-    if (!displayIpAddress(addressed.adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    if (ids.empty() && !outDisplay(text, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    std::string text = std::exchange(err, std::string());
+    CommandOutput out(*this);
+    if (!out.banner(addressed.adapter))
+        return out.end(0, err);
+    if (ids.empty())
+        out.line(text);
 
     // Records are large: grown one by one they would be copied over and over.
     std::vector<KLunInfo> infos;
@@ -103,11 +105,12 @@ int CmdLunShow::showThroughOneAdapter(std::string& err)
         tally.record(rc);
         if (rc != 0)
             continue;
-        if (!outDisplay(text, err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!out.line(text))
+            break;
         text.clear();
     }
-    return writeCountedResult(*this, tally.resultCode(), infos, err);
+    writeCountedResult(out, tally.resultCode(), infos);
+    return out.end(0, err);
 }
 
 int CmdLunShow::showThroughAdapterGroup(std::string& err)
@@ -119,16 +122,18 @@ int CmdLunShow::showThroughAdapterGroup(std::string& err)
     std::vector<KLunInfo> infos;
     infos.reserve(groups.size());
     LunOutcomeTally tally;
+    CommandOutput out(*this);
     std::string text;
     for (KAdapterGroupExtendedLunInfo const& group : groups) {
         text += group.displayHeaderText(agent);
         if (HIsaAdapter* const adapter = adapterToAsk(group))
             tally.record(showOneLun(adapter, group.lunId, text, infos, err));
-        if (!outDisplay(text, err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!out.line(text))
+            break;
         text.clear();
     }
-    return writeCountedResult(*this, tally.resultCode(), infos, err);
+    writeCountedResult(out, tally.resultCode(), infos);
+    return out.end(0, err);
 }
 
 int CmdLunShow::showOneLun(HIsaAdapter* adapter, PLunID const& lun, std::string& text, std::vector<KLunInfo>& infos,

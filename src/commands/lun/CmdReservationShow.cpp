@@ -1,8 +1,11 @@
 #include "commands/lun/CmdReservationShow.h"
 
+#include <utility>
+
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/CountedRecordBuffer.h"
 #include "commands/KeywordHelp.h"
@@ -42,11 +45,12 @@ int CmdReservationShow::execCommand(std::string& err)
     std::vector<PLunID> ids;
     if (int const rc = findAdapterAndLuns(*this, addressed, false, ids, err))
         return rc;
-    std::string const resolution = err;
-    if (!displayIpAddress(addressed.adapter, err))
-        return ZEKCLI_OUTPUT_FAIL;
-    if (ids.empty() && !outDisplay(resolution, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    std::string const resolution = std::exchange(err, std::string());
+    CommandOutput out(*this);
+    if (!out.banner(addressed.adapter))
+        return out.end(0, err);
+    if (ids.empty())
+        out.line(resolution);
 
     LunOutcomeTally tally;
     for (PLunID const& id : ids) {
@@ -61,9 +65,10 @@ int CmdReservationShow::execCommand(std::string& err)
             continue;
         std::string const text = "-lun_number=" + PBase::numberToText(id.lunNumber()) +
             " -fc_target=" + id.targetID().displayText() + "\n" + reservation.displayText();
-        if (!outDisplay(text, err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!out.line(text))
+            break;
     }
     // The result lists no reservation records: readers get the count alone.
-    return writeCountedResult(*this, tally.resultCode(), std::vector<KLunReservationInfo>(), err);
+    writeCountedResult(out, tally.resultCode(), std::vector<KLunReservationInfo>());
+    return out.end(0, err);
 }
