@@ -43,8 +43,9 @@ int CmdLunRemove::execCommand(std::string& err)
     std::string text;
     int const rc = addressed.adapter->removeLun(lun, text);
     if (g_pHbaMgmtApi->isFailure(rc)) {
-        // Whatever the adapter said about the refusal explains the code.
-        err = text;
+        // The code alone tells the refusal: what the library wrote to explain
+        // it is not the command's text.
+        err.clear();
         return rc;
     }
     text += "Successfully removed LUN  " + lun.targetID().displayText() +

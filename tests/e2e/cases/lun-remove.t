@@ -8,10 +8,11 @@ offline. It asks for no confirmation. One LUN must be named.
   \r             \r*** ZEKCLI_PARSE_FAIL -- Cannot use more than one of -lun_wwuln, -lun_serial, or -lun_any_wwuln (esc)
   [52]
 
-An online SAN LUN is refused by the adapter, with its reason.
+An online SAN LUN is refused by the adapter. The code alone tells the
+refusal: whatever the library wrote to explain it is not the command's text.
 
   $ hostcli -zek remove lun -zek=0 -lun_number=2 -fc_target=2100-0024-FF3C-5A10
-  \r             \r*** Invalid argument -- Only adapter-local LUNs and SAN LUNs that are offline can be removed (esc)
+  \r             \r*** Invalid argument (esc)
   [255]
 
 The data LUN goes, and its result record carries the code with no data;
