@@ -79,12 +79,8 @@ int CmdClusterCreate::execCommand(std::string& err)
     int hostClusterType = kNoHostClustering;
     if (keywordGiven(type)) {
         hostClusterType = hostClusterTypes().valFromPartialText(type->value, err);
-        if (!err.empty()) {
-            // The word list's message ends a line of its own; ours is one line.
-            while (!err.empty() && err.back() == '\n')
-                err.pop_back();
+        if (!err.empty())
             return ZEKCLI_PARSE_FAIL;
-        }
     }
 
     if (int const rc = primary.adapter->createCluster(primary.path, secondary.path, id, hostClusterType)) {

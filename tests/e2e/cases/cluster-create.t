@@ -15,7 +15,8 @@ create cluster makes the addressed adapter the primary of a new cluster and
   
 
 -host_cluster_type takes an abbreviation of its words; a word it does not
-know is refused before the adapter is asked.
+know is refused before the adapter is asked. The word list's message keeps
+its own line feed, so an empty line follows it.
 
   $ hostcli -zek destroy cluster -zek=2000001B32D1A000 -clusterid=drcluster01
   cluster drcluster01 successfully destroyed
@@ -27,6 +28,7 @@ know is refused before the adapter is asked.
   "hostClusterType": 3
   $ hostcli -zek create cluster -zek=2000001B32D1A000 -clusterid=drcluster03 -secondary=2000001B32D1B000 -host_cluster_type=solaris
   \r             \r*** ZEKCLI_PARSE_FAIL -- "solaris" is not recognized (esc)
+  
   [52]
   $ hostcli -zek list cluster -clusterid=drcluster03
   \r             \r*** ZEKCLI_PARSE_FAIL -- No cluster found for -clusterid=drcluster03 (esc)
