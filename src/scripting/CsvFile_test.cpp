@@ -1,0 +1,281 @@
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "core/TempDirectory_test.h"
+#include "scripting/CsvFile.h"
+
+namespace {
+
+void writeFile(std::string const& path, std::string const& bytes)
+{
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::string cell(std::string const& line, unsigned index)
+{
+    return CsvFile::getColumnValueByIndex(line, index);
+}
+
+} // namespace
+
+// ---- parseNext ----------------------------------------------------------------
+
+TEST(CsvParseNext, CutsAtTheDelimiterAndKeepsWhatFollows)
+{
+    std::string rest = "a,b,c";
+    EXPECT_EQ("a", CsvFile::parseNext(rest, ","));
+    EXPECT_EQ("b,c", rest);
+}
+
+TEST(CsvParseNext, WithoutDelimiterHandsBackTheRestAndLeavesItUnchanged)
+{
+    std::string rest = "last";
+    EXPECT_EQ("last", CsvFile::parseNext(rest, ","));
+    EXPECT_EQ("last", rest);
+}
+
+TEST(CsvParseNext, TwoCharacterDelimiterSkipsOnlyOne)
+{
+    std::string rest = "a;;b";
+    EXPECT_EQ("a", CsvFile::parseNext(rest, ";;"));
+    EXPECT_EQ(";b", rest);
+}
+
+TEST(CsvParseNext, EmptyCellsComeOutEmpty)
+{
+    std::string rest = ",x";
+    EXPECT_EQ("", CsvFile::parseNext(rest, ","));
+    EXPECT_EQ("x", rest);
+}
+
+// ---- parseNextSkipQuotedString --------------------------------------------
+
+TEST(CsvParseQuoted, PlainCellCutsAtTheDelimiter)
+{
+    std::string rest = "a,b";
+    EXPECT_EQ("a", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("b", rest);
+}
+
+TEST(CsvParseQuoted, NoDelimiterNoQuoteLeavesTheRestUnchanged)
+{
+    std::string rest = "abc";
+    EXPECT_EQ("abc", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("abc", rest);
+}
+
+TEST(CsvParseQuoted, QuotedStretchKeepsItsDelimitersAndQuotes)
+{
+    std::string rest = "\"p,q\",z";
+    EXPECT_EQ("\"p,q\"", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("z", rest);
+}
+
+TEST(CsvParseQuoted, TextBeforeTheQuoteBelongsToTheCell)
+{
+    std::string rest = "ab'c,d'e,f";
+    EXPECT_EQ("ab'c,d'e", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("f", rest);
+}
+
+TEST(CsvParseQuoted, SingleQuotesCloseOnlyOnSingleQuotes)
+{
+    std::string rest = "'a\",b',c";
+    EXPECT_EQ("'a\",b'", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("c", rest);
+}
+
+TEST(CsvParseQuoted, UnterminatedQuoteTakesAllAndEmptiesTheRest)
+{
+    std::string rest = "'open,y";
+    EXPECT_EQ("'open,y", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("", rest);
+}
+
+TEST(CsvParseQuoted, QuotedStretchFollowedByNoDelimiterTakesAllAndEmptiesTheRest)
+{
+    std::string rest = "\"p,q\" tail";
+    EXPECT_EQ("\"p,q\" tail", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("", rest);
+}
+
+TEST(CsvParseQuoted, AnyCharacterOfTheDelimiterCuts)
+{
+    std::string rest = "a;b,c";
+    EXPECT_EQ("a", CsvFile::parseNextSkipQuotedString(rest, ",;"));
+    EXPECT_EQ("b,c", rest);
+}
+
+TEST(CsvParseQuoted, DoubledQuoteHasNoMeaning)
+{
+    std::string rest = "\"\"a,b";
+    EXPECT_EQ("\"\"a", CsvFile::parseNextSkipQuotedString(rest, ","));
+    EXPECT_EQ("b", rest);
+}
+
+// ---- removeLeadingAndTrailingWhitespace -----------------------------------
+
+TEST(CsvTrim, BlanksAndTabsOnBothSidesGo)
+{
+    EXPECT_EQ("a b", CsvFile::removeLeadingAndTrailingWhitespace(" \t a b\t "));
+}
+
+TEST(CsvTrim, EmptyOrOnlyBlanksAndTabsGiveEmpty)
+{
+    EXPECT_EQ("", CsvFile::removeLeadingAndTrailingWhitespace(""));
+    EXPECT_EQ("", CsvFile::removeLeadingAndTrailingWhitespace(" \t\t "));
+}
+
+TEST(CsvTrim, OtherWhitespaceStays)
+{
+    EXPECT_EQ("\ra\n", CsvFile::removeLeadingAndTrailingWhitespace(" \ra\n\t"));
+}
+
+// ---- getColumnValueByIndex -------------------------------------------------
+
+TEST(CsvColumn, CellsAreTrimmed)
+{
+    EXPECT_EQ("b", cell("a, b ,c", 1));
+    EXPECT_EQ("a", cell("\ta\t,b", 0));
+}
+
+TEST(CsvColumn, QuotedCellKeepsItsQuotes)
+{
+    EXPECT_EQ("\"p,q\"", cell("x,\"p,q\",z", 1));
+    EXPECT_EQ("z", cell("x,\"p,q\",z", 2));
+}
+
+TEST(CsvColumn, UnterminatedQuoteRunsToTheEnd)
+{
+    EXPECT_EQ("'unterminated,y", cell("x,'unterminated,y", 1));
+}
+
+TEST(CsvColumn, EmptyLineIsEmptyAtEveryIndex)
+{
+    for (unsigned index : {0u, 1u, 7u, 0xFFFFFFFEu, 0xFFFFFFFFu})
+        EXPECT_EQ("", cell("", index)) << index;
+}
+
+TEST(CsvColumn, PastTheLastCellTheLastCellRepeats)
+{
+    EXPECT_EQ("b", cell("a,b", 1));
+    EXPECT_EQ("b", cell("a,b", 2));
+    EXPECT_EQ("b", cell("a,b", 1000000));
+}
+
+TEST(CsvColumn, PastATrailingCommaTheAnswerIsEmpty)
+{
+    EXPECT_EQ("b", cell("a,b,", 1));
+    EXPECT_EQ("", cell("a,b,", 2));
+    EXPECT_EQ("", cell("a,b,", 3));
+}
+
+TEST(CsvColumn, AllOnesIndexGivesEmpty)
+{
+    EXPECT_EQ("", cell("a,b,c", 0xFFFFFFFFu));
+}
+
+TEST(CsvColumn, HugeIndexOnAWideLineIsTheLastCell)
+{
+    std::string line;
+    for (int i = 0; i < 10000; ++i)
+        line += "c" + std::to_string(i) + ",";
+    line += "end";
+    EXPECT_EQ("c9999", cell(line, 9999));
+    EXPECT_EQ("end", cell(line, 0xFFFFFFFEu));
+}
+
+TEST(CsvColumn, PastAnUnterminatedQuoteTheAnswerIsEmpty)
+{
+    EXPECT_EQ("", cell("x,'open", 2));
+}
+
+TEST(CsvColumn, NulBytesAreOrdinaryCharacters)
+{
+    std::string const line("a,b\0c,d", 7);
+    EXPECT_EQ(std::string("b\0c", 3), cell(line, 1));
+}
+
+// ---- reading lines ---------------------------------------------------------
+
+TEST(CsvFileLines, LinesComeOneByOneAndTheUnterminatedLastIsNotUsed)
+{
+    TempDirectory dir;
+    ASSERT_TRUE(dir.made());
+    writeFile(dir.file("a.csv"), "one\r\ntwo\n\nlast");
+    CsvFile csv;
+    std::string err;
+    ASSERT_TRUE(csv.openFile(dir.file("a.csv"), "r", err)) << err;
+    ASSERT_TRUE(csv.getNextLine());
+    EXPECT_EQ("one", csv.currentLine());
+    ASSERT_TRUE(csv.getNextLine());
+    EXPECT_EQ("two", csv.currentLine());
+    ASSERT_TRUE(csv.getNextLine());
+    EXPECT_EQ("", csv.currentLine());
+    EXPECT_FALSE(csv.getNextLine());
+    EXPECT_EQ("", csv.currentLine()) << "the line before the end stays";
+}
+
+TEST(CsvFileLines, AtTheEndTheCurrentLineStays)
+{
+    TempDirectory dir;
+    ASSERT_TRUE(dir.made());
+    writeFile(dir.file("a.csv"), "only\n");
+    CsvFile csv;
+    std::string err;
+    ASSERT_TRUE(csv.openFile(dir.file("a.csv"), "r", err)) << err;
+    ASSERT_TRUE(csv.getNextLine());
+    EXPECT_FALSE(csv.getNextLine());
+    EXPECT_FALSE(csv.getNextLine());
+    EXPECT_EQ("only", csv.currentLine());
+}
+
+TEST(CsvFileLines, ClosedFileGivesNoLine)
+{
+    CsvFile csv;
+    EXPECT_FALSE(csv.isOpen());
+    EXPECT_FALSE(csv.getNextLine());
+}
+
+TEST(CsvFileLines, MissingFileReportsTheOpenFailure)
+{
+    TempDirectory dir;
+    ASSERT_TRUE(dir.made());
+    CsvFile csv;
+    std::string err;
+    EXPECT_FALSE(csv.openFile(dir.file("none.csv"), "r", err));
+    EXPECT_EQ("Unable to open file \"" + dir.file("none.csv") + "\", (No such file or directory)", err);
+    EXPECT_FALSE(csv.isOpen());
+}
+
+TEST(CsvFileLines, OpeningAgainClosesTheFirstFile)
+{
+    TempDirectory dir;
+    ASSERT_TRUE(dir.made());
+    writeFile(dir.file("a.csv"), "a\n");
+    writeFile(dir.file("b.csv"), "b\n");
+    CsvFile csv;
+    std::string err;
+    ASSERT_TRUE(csv.openFile(dir.file("a.csv"), "r", err));
+    ASSERT_TRUE(csv.openFile(dir.file("b.csv"), "r", err));
+    ASSERT_TRUE(csv.getNextLine());
+    EXPECT_EQ("b", csv.currentLine());
+    csv.closeFile();
+    EXPECT_FALSE(csv.isOpen());
+    EXPECT_FALSE(csv.getNextLine());
+}
+
+TEST(CsvFileLines, LongLineWithNulBytesIsReadWhole)
+{
+    TempDirectory dir;
+    ASSERT_TRUE(dir.made());
+    std::string big(1 << 20, 'x');
+    big[17] = '\0';
+    writeFile(dir.file("big.csv"), big + "\n");
+    CsvFile csv;
+    std::string err;
+    ASSERT_TRUE(csv.openFile(dir.file("big.csv"), "r", err));
+    ASSERT_TRUE(csv.getNextLine());
+    EXPECT_EQ(big, csv.currentLine());
+}
