@@ -56,22 +56,32 @@ std::string CsvFile::parseNext(std::string& rest, std::string const& delimiter)
 
 // One quoted stretch per cell keeps its delimiters and its quotes; anything
 // that cannot be closed takes the rest of the line.
-std::string CsvFile::parseNextSkipQuotedString(std::string& rest, std::string const& delimiter)
+std::string_view CsvFile::cutSkippingQuotes(std::string_view& rest, std::string_view delimiter)
 {
-    std::string::size_type cut = rest.find_first_of(delimiter + kQuotes);
-    if (cut == std::string::npos)
+    std::string stops(delimiter);
+    stops += kQuotes;
+    std::string_view::size_type cut = rest.find_first_of(stops);
+    if (cut == std::string_view::npos)
         return rest;
-    if (delimiter.find(rest[cut]) == std::string::npos) {
-        std::string::size_type const closing = rest.find(rest[cut], cut + 1);
-        cut = closing == std::string::npos ? closing : rest.find_first_of(delimiter, closing + 1);
-        if (cut == std::string::npos) {
-            std::string all;
-            all.swap(rest);
+    if (delimiter.find(rest[cut]) == std::string_view::npos) {
+        std::string_view::size_type const closing = rest.find(rest[cut], cut + 1);
+        cut = closing == std::string_view::npos ? closing : rest.find_first_of(delimiter, closing + 1);
+        if (cut == std::string_view::npos) {
+            std::string_view const all = rest;
+            rest = std::string_view();
             return all;
         }
     }
-    std::string cell = rest.substr(0, cut);
-    rest.erase(0, cut + 1);
+    std::string_view const cell = rest.substr(0, cut);
+    rest.remove_prefix(cut + 1);
+    return cell;
+}
+
+std::string CsvFile::parseNextSkipQuotedString(std::string& rest, std::string const& delimiter)
+{
+    std::string_view remaining(rest);
+    std::string cell(cutSkippingQuotes(remaining, delimiter));
+    rest.erase(0, rest.size() - remaining.size());
     return cell;
 }
 
@@ -83,19 +93,30 @@ std::string CsvFile::removeLeadingAndTrailingWhitespace(std::string const& text)
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Past the last cell the last call's answer stands: a missing column is never
-// reported. Once `rest` stops changing every further call would give the same
-// answer, so the walk ends there; that keeps a huge index cheap.
 std::string CsvFile::getColumnValueByIndex(std::string const& line, unsigned index)
 {
-    std::string rest = line;
-    std::string value;
-    unsigned const calls = index + 1u; // 0xFFFFFFFF wraps to no call at all
-    for (unsigned i = 0; i < calls; ++i) {
-        std::string::size_type const before = rest.size();
-        value = parseNextSkipQuotedString(rest, ",");
+    return CsvLineCells(line).valueAt(index);
+}
+
+// Past the last cell the last cut's answer stands: a missing column is never
+// reported. Once the rest stops changing every further cut would give the
+// same answer, so the walk ends there; that keeps a huge index cheap.
+CsvLineCells::CsvLineCells(std::string const& line)
+{
+    std::string_view rest(line);
+    for (;;) {
+        std::string_view::size_type const before = rest.size();
+        values.push_back(
+            CsvFile::removeLeadingAndTrailingWhitespace(std::string(CsvFile::cutSkippingQuotes(rest, ","))));
         if (rest.size() == before)
             break;
     }
-    return removeLeadingAndTrailingWhitespace(value);
+}
+
+// Index 0xFFFFFFFF asks for no cut at all, which leaves the answer empty.
+std::string CsvLineCells::valueAt(unsigned index) const
+{
+    if (index == 0xFFFFFFFFu || values.empty())
+        return std::string();
+    return index < values.size() ? values[index] : values.back();
 }

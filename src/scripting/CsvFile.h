@@ -5,6 +5,8 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
+#include <vector>
 
 class CsvFile {
 public:
@@ -30,7 +32,24 @@ public:
     static std::string removeLeadingAndTrailingWhitespace(std::string const& text);
     static std::string getColumnValueByIndex(std::string const& line, unsigned index);
 
+    // The cut of parseNextSkipQuotedString on a view: `rest` becomes the
+    // part behind the cut, and the cell is a view into the same text.
+    static std::string_view cutSkippingQuotes(std::string_view& rest, std::string_view delimiter);
+
 protected:
     FILE* file = nullptr;
     std::string line;
+};
+
+// The answers of getColumnValueByIndex for every index of one line, from a
+// single walk: commands that look up many columns of a row pay for the row
+// once instead of once per column.
+class CsvLineCells {
+public:
+    explicit CsvLineCells(std::string const& line);
+
+    std::string valueAt(unsigned index) const;
+
+private:
+    std::vector<std::string> values; // one per cut, trimmed; the last one stands for all beyond
 };

@@ -197,6 +197,31 @@ TEST(CsvColumn, NulBytesAreOrdinaryCharacters)
     EXPECT_EQ(std::string("b\0c", 3), cell(line, 1));
 }
 
+// The rule as written: index + 1 cuts of a copy, the last answer trimmed.
+std::string columnByRepeatedCuts(std::string const& line, unsigned index)
+{
+    std::string rest = line;
+    std::string value;
+    for (unsigned i = 0; i < index + 1u; ++i)
+        value = CsvFile::parseNextSkipQuotedString(rest, ",");
+    return CsvFile::removeLeadingAndTrailingWhitespace(value);
+}
+
+TEST(CsvColumn, OneWalkAnswersLikeRepeatedCuts)
+{
+    char const* const lines[] = {"",         "a",           "a,b",       "a,b,",  ",,",
+                                 " a , b ",  "x,\"p,q\",z", "x,'open,y", "'a',b", "\"q\" t,u",
+                                 "a,'b'c,d", "\t,\t",       "'x'",       "a,\"",  "'',,'"};
+    for (char const* line : lines) {
+        CsvLineCells const cells(line);
+        for (unsigned index = 0; index < 8; ++index) {
+            EXPECT_EQ(columnByRepeatedCuts(line, index), cells.valueAt(index)) << line << " @" << index;
+            EXPECT_EQ(columnByRepeatedCuts(line, index), cell(line, index)) << line << " @" << index;
+        }
+        EXPECT_EQ("", cells.valueAt(0xFFFFFFFFu));
+    }
+}
+
 // ---- reading lines ---------------------------------------------------------
 
 TEST(CsvFileLines, LinesComeOneByOneAndTheUnterminatedLastIsNotUsed)
