@@ -98,13 +98,13 @@ TEST_F(CsvFileInfoTest, NoTitleLinesIsFine)
 TEST_F(CsvFileInfoTest, FilesThatAreNotStatisticsFilesAreRefused)
 {
     char const* const files[] = {
-        "",                                        // nothing at all
-        "\nLUN,1,0,T,\n\n1/1/2026,0:0:0,1,\n",     // empty first line
+        "",                                             // nothing at all
+        "\nLUN,1,0,T,\n\n1/1/2026,0:0:0,1,\n",          // empty first line
         "Date,Time,Adapter ID,\n\n1/1/2026,0:0:0,1,\n", // unknown kind
-        "LUN,1,0,T,\ntitle\n",                     // titles never end
-        "LUN,1,0,T,\ntitle\n\n",                   // titles only, no sample
-        "LUN,1,0,T,\n\n1/1/2026,0:0:0,1,",         // the only sample has no line end
-        "LUN,1,0,T,",                              // first line without its end
+        "LUN,1,0,T,\ntitle\n",                          // titles never end
+        "LUN,1,0,T,\ntitle\n\n",                        // titles only, no sample
+        "LUN,1,0,T,\n\n1/1/2026,0:0:0,1,",              // the only sample has no line end
+        "LUN,1,0,T,",                                   // first line without its end
     };
     for (char const* bytes : files) {
         EXPECT_FALSE(open(bytes)) << bytes;
@@ -157,8 +157,7 @@ TEST_F(CsvFileInfoTest, FirstSampleIsKeptWholeButLaterOnesDoNotPileUp)
     for (int row = 0; row < 1000; ++row)
         bytes += "1/1/2026,00:00:" + std::to_string(row % 60) + ",1,2,3,4,5,6,7,8,\n";
     ASSERT_TRUE(open(bytes));
-    while (info.getNextSample()) {
-    }
+    while (info.getNextSample()) {}
     EXPECT_EQ(8u, info.sampleValues.size());
 }
 
@@ -215,8 +214,8 @@ TEST_F(CsvFileInfoTest, BlanksAroundDateAndTimePartsAreAllowed)
 
 TEST_F(CsvFileInfoTest, DatesAndTimesThatCannotBeConvertedEndTheFile)
 {
-    char const* const samples[] = {"1x/1/2026,0:0:0,1,", "1/1/2026,a:0:0,1,", "1/2/3/4,0:0:0,1,",
-                                   "1/1/2026,1:2:3:4,1,", "1/1/99999999999,0:0:0,1,", "1/1/-5,0:0:0,1,",
+    char const* const samples[] = {"1x/1/2026,0:0:0,1,",        "1/1/2026,a:0:0,1,",        "1/2/3/4,0:0:0,1,",
+                                   "1/1/2026,1:2:3:4,1,",       "1/1/99999999999,0:0:0,1,", "1/1/-5,0:0:0,1,",
                                    "1/1/2026,0:0:9999999999,1,"};
     for (char const* sample : samples) {
         EXPECT_FALSE(open(std::string("LUN,1,0,A,\n\n") + sample + "\n")) << sample;
