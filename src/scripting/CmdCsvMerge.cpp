@@ -1,7 +1,15 @@
 #include "scripting/CmdCsvMerge.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <dirent.h>
+#include <sys/stat.h>
+
 #include "commands/CommandDeclaration.h"
-#include "commands/NotAvailable.h"
+#include "core/ZekcliReturn.h"
+#include "scripting/CsvMergeReport.h"
 
 namespace {
 
@@ -11,6 +19,25 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_FILEPATH, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED, "~"),
     endRow(),
 };
+
+bool endsWithCsv(std::string const& name)
+{
+    static std::string const suffix = ".csv";
+    return name.size() >= suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
+// A FIFO would block the merge for ever and a folder has no lines; only
+// regular files (or links to them) are read.
+bool isRegularFile(std::string const& path)
+{
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+std::string writeFailureText(std::string const& name)
+{
+    return "Unable to write file \"" + name + "\", (" + std::strerror(errno) + ")";
+}
 
 } // namespace
 
@@ -24,13 +51,87 @@ CmdCsvMerge::CmdCsvMerge()
     helpSyntax = "\t[-csv_folder=<folder>]\n"
                  "\t[-file=<file name>]";
     helpModifiers = "-csv_folder=<folder>\n"
-                    "\tFolder holding the CSV files.\n"
+                    "\tFolder holding the CSV files. Default is the working directory.\n"
                     "-file=<file name>\n"
                     "\tOutput file. Default is the console.";
     helpExamples = ugCommandPrompt() + "-csv_folder=stats -file=summary.csv";
+    helpNotes = "Every regular file of the folder whose name ends in .csv is read; files that are not\n"
+                "statistics files are left out.";
+}
+
+bool CmdCsvMerge::csvFileNamesOf(std::string const& folder, std::vector<std::string>& names)
+{
+    names.clear();
+    DIR* const dir = opendir(folder.c_str());
+    if (!dir)
+        return false;
+    while (dirent const* entry = readdir(dir)) {
+        std::string const name = entry->d_name;
+        if (endsWithCsv(name) && isRegularFile(folder + "/" + name))
+            names.push_back(name);
+    }
+    closedir(dir);
+    std::sort(names.begin(), names.end());
+    return true;
+}
+
+// A folder that cannot be read leaves the report with its titles only.
+int CmdCsvMerge::readFolder(std::string const& folder, CsvMergeReport& report, std::string& err)
+{
+    std::vector<std::string> names;
+    if (!csvFileNamesOf(folder, names)) {
+        err = "Error opening " + folder;
+        return ZEKCLI_OK;
+    }
+    for (auto name = names.rbegin(); name != names.rend(); ++name) {
+        if (report.addFile(folder + "/" + *name, err) == CsvMergeReport::MERGE_STOPPED)
+            return ZEKCLI_CMD_FAIL;
+    }
+    return ZEKCLI_OK;
 }
 
 int CmdCsvMerge::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    err.clear();
+    TokenModifierString const* const folderKeyword = findModifier(ModifierId::MODIFIER_CSV_FOLDER, err);
+    if (!folderKeyword)
+        return ZEKCLI_PARSE_FAIL;
+    TokenModifierString const* const fileKeyword = findModifier(ModifierId::MODIFIER_FILEPATH, err);
+    if (!fileKeyword)
+        return ZEKCLI_PARSE_FAIL;
+    bool const toFile = !fileKeyword->isDefault;
+    std::string const outputName = fileKeyword->value;
+    FILE* output = nullptr;
+    if (toFile && !safe_fopen(&output, outputName, "w", err))
+        return ZEKCLI_OUTPUT_FAIL;
+    bool const folderGiven = !folderKeyword->isDefault && !folderKeyword->value.empty();
+    CsvMergeReport report;
+    int rc = readFolder(folderGiven ? folderKeyword->value : ".", report, err);
+    if (rc == ZEKCLI_OK)
+        rc = writeReport(report, output, outputName, err);
+    if (output && std::fclose(output) != 0 && rc == ZEKCLI_OK) {
+        err = writeFailureText(outputName);
+        rc = ZEKCLI_OUTPUT_FAIL;
+    }
+    if (rc != ZEKCLI_OK)
+        return rc;
+    std::string const text = toFile ? "CSV output file " + outputName + " created successfully" : std::string();
+    return outDisplay(text, err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+}
+
+// To a file as it stands; to the console as displayed text.
+int CmdCsvMerge::writeReport(CsvMergeReport& report, FILE* output, std::string const& outputName,
+                             std::string& err) const
+{
+    report.buildColumns();
+    return report.write(
+        [&](std::string const& text, std::string& writeErr) {
+            if (!output)
+                return outDisplay(text, writeErr);
+            if (std::fwrite(text.data(), 1, text.size(), output) == text.size())
+                return true;
+            writeErr = writeFailureText(outputName);
+            return false;
+        },
+        err);
 }

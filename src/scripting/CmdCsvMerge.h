@@ -3,12 +3,25 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/TokenCmd.h"
+
+class CsvMergeReport;
 
 class CmdCsvMerge : public TokenCmd {
 public:
     CmdCsvMerge();
 
     int execCommand(std::string& err) override;
+
+    // The names of the regular files in `folder` that end in ".csv", in byte
+    // order; false when the folder cannot be read.
+    static bool csvFileNamesOf(std::string const& folder, std::vector<std::string>& names);
+    // The files of the folder, from the last name to the first. 0, or
+    // ZEKCLI_CMD_FAIL when the files cannot all be held open.
+    static int readFolder(std::string const& folder, CsvMergeReport& report, std::string& err);
+
+private:
+    int writeReport(CsvMergeReport& report, FILE* output, std::string const& outputName, std::string& err) const;
 };

@@ -11,14 +11,9 @@ CsvReportColumn::CsvReportColumn()
 
 CsvReportColumn::CsvReportColumn(CSV_REPORT_COLUMN_TYPE type, std::string groupTitle, std::string columnTitle,
                                  int32_t sampleIndex, std::string matchText, std::vector<CSV_SAMPLE> samples)
-    : type(type)
-    , groupTitle(std::move(groupTitle))
-    , columnTitle(std::move(columnTitle))
-    , sampleIndex(sampleIndex)
-    , matchText(std::move(matchText))
-    , samples(std::move(samples))
-{
-}
+    : type(type), groupTitle(std::move(groupTitle)), columnTitle(std::move(columnTitle)), sampleIndex(sampleIndex),
+      matchText(std::move(matchText)), samples(std::move(samples))
+{}
 
 void CsvReportColumn::init()
 {
