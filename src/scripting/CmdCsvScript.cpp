@@ -1,9 +1,13 @@
 #include "scripting/CmdCsvScript.h"
 
+#include <cerrno>
+#include <cstring>
 #include <vector>
 
 #include "commands/CommandDeclaration.h"
-#include "commands/NotAvailable.h"
+#include "core/ZekcliReturn.h"
+#include "scripting/CmdCsvScriptKeywordList.h"
+#include "scripting/CsvFile.h"
 
 namespace {
 
@@ -20,6 +24,22 @@ std::vector<TokenInitializer::TOKEN_INITIALIZER> csvScriptRows()
     }
     rows.push_back(endRow());
     return rows;
+}
+
+// The command's own keywords are not carried into the lines it writes.
+bool isOwnKeyword(int id)
+{
+    return id == ModifierId::MODIFIER_CMD || id == ModifierId::MODIFIER_CSV_FILE || id == ModifierId::MODIFIER_FILEPATH;
+}
+
+std::string keywordText(CmdCsvScriptKeyword const& keyword)
+{
+    return " -" + ModifierId::table().textFromVal(keyword.id);
+}
+
+std::string writeFailureText(std::string const& name, int error)
+{
+    return "Unable to write file \"" + name + "\", (" + std::strerror(error) + ")";
 }
 
 } // namespace
@@ -53,5 +73,123 @@ CmdCsvScript::CmdCsvScript()
 
 int CmdCsvScript::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    err.clear();
+    TokenModifierString const* const csvKeyword = findModifier(ModifierId::MODIFIER_CSV_FILE, err);
+    if (!csvKeyword)
+        return ZEKCLI_PARSE_FAIL;
+    std::string const csvName = csvKeyword->value;
+    CsvFile input;
+    if (!input.openFile(csvName, "r", err))
+        return ZEKCLI_OUTPUT_FAIL;
+    TokenModifierString const* const fileKeyword = findModifier(ModifierId::MODIFIER_FILEPATH, err);
+    if (!fileKeyword)
+        return ZEKCLI_PARSE_FAIL;
+    // A name remembered from an earlier run is never written over unasked:
+    // without -file the name is empty, and the open below fails.
+    std::string const scriptName = fileKeyword->isDefault ? std::string() : fileKeyword->value;
+    FILE* output = nullptr;
+    if (!safe_fopen(&output, scriptName, "w", err))
+        return ZEKCLI_OUTPUT_FAIL;
+    TokenModifierString const* const cmdKeyword = findModifier(ModifierId::MODIFIER_CMD, err);
+    int rc = cmdKeyword ? writeScript(input, output, csvName, cmdKeyword->value, scriptName, err) : ZEKCLI_PARSE_FAIL;
+    input.closeFile();
+    if (std::fclose(output) != 0 && rc == ZEKCLI_OK) {
+        err = writeFailureText(scriptName, errno);
+        rc = ZEKCLI_OUTPUT_FAIL;
+    }
+    if (rc != ZEKCLI_OK)
+        return rc;
+    return outDisplay(doneText(csvName, scriptName), err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+}
+
+// With no script file named, the script went to the console.
+std::string CmdCsvScript::doneText(std::string const& csvName, std::string const& scriptName)
+{
+    if (!scriptName.empty())
+        return "Script file \"" + scriptName + "\" for CSV file \"" + csvName + "\" created successfully";
+    return "Script file successfully output to console for CSV file \"" + csvName + "\"";
+}
+
+std::vector<CmdCsvScriptKeyword> CmdCsvScript::collectKeywords() const
+{
+    static CmdCsvScriptKeywordList const columns;
+    std::vector<CmdCsvScriptKeyword> keywords;
+    std::string err;
+    for (int id = ModifierId::MODIFIER_NONE + 1; id < ModifierId::MODIFIER_COUNT; ++id) {
+        TokenModifierString const* const keyword = findModifier(static_cast<ModifierId::MODIFIER_ID>(id), err);
+        if (!keyword)
+            break;
+        if (isOwnKeyword(id) || keyword->isDefault)
+            continue;
+        // Only the test is without case: the value is written as typed.
+        CmdCsvScriptKeyword::KEYWORD_VALUE_TYPE const type =
+            columns.valFromExactText(lowerCaseCopy(keyword->value), err);
+        keywords.emplace_back(static_cast<ModifierId::MODIFIER_ID>(id), type, keyword->value);
+    }
+    return keywords;
+}
+
+std::string CmdCsvScript::headerText(std::string const& csvName, std::string const& commandText,
+                                     std::vector<CmdCsvScriptKeyword> const& keywords)
+{
+    std::string text =
+        "# Script for comma separated value file " + csvName + "\n# >>> script csv -cmd=\"" + commandText + "\"";
+    for (CmdCsvScriptKeyword const& keyword : keywords) {
+        text += keywordText(keyword);
+        if (!keyword.value.empty())
+            text += "=" + keyword.value;
+    }
+    return text + "\n#\n";
+}
+
+std::string CmdCsvScript::commandLineText(std::string const& commandText,
+                                          std::vector<CmdCsvScriptKeyword> const& keywords, CsvLineCells const& cells)
+{
+    std::string text = "\n" + commandText + " ";
+    for (CmdCsvScriptKeyword const& keyword : keywords) {
+        text += keywordText(keyword);
+        if (keyword.value.empty())
+            continue;
+        std::string const value = keyword.isColumn() ? cells.valueAt(keyword.column()) : keyword.value;
+        if (value.empty())
+            return std::string();
+        text += "=" + value;
+    }
+    return text;
+}
+
+int CmdCsvScript::writeScript(CsvFile& input, FILE* output, std::string const& csvName, std::string const& commandText,
+                              std::string const& scriptName, std::string& err) const
+{
+    std::vector<CmdCsvScriptKeyword> const keywords = collectKeywords();
+    if (!writeText(output, headerText(csvName, commandText, keywords), true, scriptName, err))
+        return ZEKCLI_OUTPUT_FAIL;
+    while (input.getNextLine()) {
+        if (input.currentLine().empty())
+            continue;
+        if (!writeText(output, commandLineText(commandText, keywords, CsvLineCells(input.currentLine())), false,
+                       scriptName, err))
+            return ZEKCLI_OUTPUT_FAIL;
+    }
+    if (input.readFailed()) {
+        err = "Unable to read file \"" + csvName + "\", (" + std::strerror(input.readError()) + ")";
+        return ZEKCLI_OUTPUT_FAIL;
+    }
+    return writeText(output, "\n", false, scriptName, err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+}
+
+// To the console the header is a displayed text and the lines are printed as
+// they stand.
+bool CmdCsvScript::writeText(FILE* output, std::string const& text, bool displayed, std::string const& scriptName,
+                             std::string& err) const
+{
+    if (text.empty())
+        return true;
+    if (!output && displayed)
+        return outDisplay(text, err);
+    FILE* const stream = output ? output : stdout;
+    if (std::fwrite(text.data(), 1, text.size(), stream) == text.size())
+        return true;
+    err = writeFailureText(output ? scriptName : "standard output", errno);
+    return false;
 }

@@ -1,5 +1,7 @@
 #include "scripting/CsvFile.h"
 
+#include <cerrno>
+
 #include "core/Token.h"
 #include "core/TokenCmd.h"
 
@@ -23,6 +25,7 @@ void CsvFile::base_init()
 bool CsvFile::openFile(std::string const& path, std::string const& mode, std::string& err)
 {
     closeFile();
+    readErrno = 0;
     return Token::safe_fopen(&file, path, mode, err);
 }
 
@@ -36,8 +39,12 @@ void CsvFile::closeFile()
 bool CsvFile::getNextLine()
 {
     std::string next;
-    if (!TokenCmd::readLineFromFilePointer(file, next))
+    errno = 0;
+    if (!TokenCmd::readLineFromFilePointer(file, next)) {
+        if (file && std::ferror(file))
+            readErrno = errno != 0 ? errno : EIO;
         return false;
+    }
     line.swap(next);
     return true;
 }

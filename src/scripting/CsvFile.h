@@ -26,6 +26,10 @@ public:
     // end; the current line then keeps what it held.
     bool getNextLine();
     std::string const& currentLine() const { return line; }
+    // Whether the end came from a failed read (a folder, a device error)
+    // rather than from the end of the file, and its errno.
+    bool readFailed() const { return readErrno != 0; }
+    int readError() const { return readErrno; }
 
     static std::string parseNext(std::string& rest, std::string const& delimiter);
     static std::string parseNextSkipQuotedString(std::string& rest, std::string const& delimiter);
@@ -39,6 +43,7 @@ public:
 protected:
     FILE* file = nullptr;
     std::string line;
+    int readErrno = 0;
 };
 
 // The answers of getColumnValueByIndex for every index of one line, from a

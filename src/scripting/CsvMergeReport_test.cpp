@@ -140,8 +140,8 @@ TEST_F(CsvMergeReportTest, OnlyPortFilesGiveRowsWithoutColumns)
 
 TEST_F(CsvMergeReportTest, SampleExactlyTenSecondsOnFallsIntoTheWindowAndIsNotSeenTwice)
 {
-    add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:10", 1, 1, 1, 1) +
-                     row("08:00:21", 1, 1, 1, 1));
+    add("a.csv",
+        lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:10", 1, 1, 1, 1) + row("08:00:21", 1, 1, 1, 1));
     std::string const values = "1.000000,1.000000,1.000000,1.000000,\n";
     EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
                   "11/18/2026,08:00:20," + values + "11/18/2026,08:00:20," + values,
@@ -153,8 +153,7 @@ TEST_F(CsvMergeReportTest, GapsRepeatTheSums)
     add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 2, 3, 4) + row("08:00:35", 1, 2, 3, 4));
     std::string const values = "1.000000,2.000000,3.000000,4.000000,\n";
     EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:30," + values + "11/18/2026,08:00:30," +
-                  values,
+                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:30," + values + "11/18/2026,08:00:30," + values,
               merged());
 }
 
@@ -188,19 +187,19 @@ TEST_F(CsvMergeReportTest, SampleTooShortForAColumnGivesThatColumnNothing)
 
 TEST_F(CsvMergeReportTest, SampleGoingBackInTimeGoesIntoTheCurrentWindow)
 {
-    add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:25", 1, 1, 1, 1) +
-                     row("07:00:00", 1, 1, 1, 1) + row("08:00:31", 1, 1, 1, 1));
+    add("a.csv",
+        lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:25", 1, 1, 1, 1) + row("07:00:00", 1, 1, 1, 1) +
+            row("08:00:31", 1, 1, 1, 1));
     std::string const values = "1.000000,1.000000,1.000000,1.000000,\n";
     EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:30," + values + "11/18/2026,08:00:30," +
-                  values,
+                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:30," + values + "11/18/2026,08:00:30," + values,
               merged());
 }
 
 TEST_F(CsvMergeReportTest, UnconvertibleDateEndsThatFileOnly)
 {
-    add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + "xx/1/2026,08:00:30,5,5,5,5,\n" +
-                     row("08:00:40", 1, 1, 1, 1));
+    add("a.csv",
+        lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + "xx/1/2026,08:00:30,5,5,5,5,\n" + row("08:00:40", 1, 1, 1, 1));
     add("b.csv", lunHead(2, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:12", 1, 1, 1, 1));
     std::string const values = "2.000000,2.000000,2.000000,2.000000,\n";
     EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
@@ -226,12 +225,13 @@ TEST_F(CsvMergeReportTest, FailingWriterStopsAtOnce)
     report.buildColumns();
     int calls = 0;
     std::string err;
-    EXPECT_EQ(ZEKCLI_OUTPUT_FAIL, report.write(
-                                      [&](std::string const&, std::string& writeErr) {
-                                          writeErr = "disk full";
-                                          return ++calls < 2;
-                                      },
-                                      err));
+    EXPECT_EQ(ZEKCLI_OUTPUT_FAIL,
+              report.write(
+                  [&](std::string const&, std::string& writeErr) {
+                      writeErr = "disk full";
+                      return ++calls < 2;
+                  },
+                  err));
     EXPECT_EQ(2, calls);
     EXPECT_EQ("disk full", err);
 }
