@@ -32,9 +32,10 @@ bool isOwnKeyword(int id)
     return id == ModifierId::MODIFIER_CMD || id == ModifierId::MODIFIER_CSV_FILE || id == ModifierId::MODIFIER_FILEPATH;
 }
 
-std::string keywordText(CmdCsvScriptKeyword const& keyword)
+void appendKeyword(std::string& text, CmdCsvScriptKeyword const& keyword)
 {
-    return " -" + ModifierId::table().textFromVal(keyword.id);
+    text += " -";
+    text += ModifierId::table().texts()[static_cast<std::size_t>(keyword.id)];
 }
 
 std::string writeFailureText(std::string const& name, int error)
@@ -135,7 +136,7 @@ std::string CmdCsvScript::headerText(std::string const& csvName, std::string con
     std::string text =
         "# Script for comma separated value file " + csvName + "\n# >>> script csv -cmd=\"" + commandText + "\"";
     for (CmdCsvScriptKeyword const& keyword : keywords) {
-        text += keywordText(keyword);
+        appendKeyword(text, keyword);
         if (!keyword.value.empty())
             text += "=" + keyword.value;
     }
@@ -147,13 +148,14 @@ std::string CmdCsvScript::commandLineText(std::string const& commandText,
 {
     std::string text = "\n" + commandText + " ";
     for (CmdCsvScriptKeyword const& keyword : keywords) {
-        text += keywordText(keyword);
+        appendKeyword(text, keyword);
         if (keyword.value.empty())
             continue;
-        std::string const value = keyword.isColumn() ? cells.valueAt(keyword.column()) : keyword.value;
+        std::string const& value = keyword.isColumn() ? cells.valueAt(keyword.column()) : keyword.value;
         if (value.empty())
             return std::string();
-        text += "=" + value;
+        text += '=';
+        text += value;
     }
     return text;
 }

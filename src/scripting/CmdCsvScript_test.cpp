@@ -33,10 +33,7 @@ protected:
         parser.root.addChild(script);
     }
 
-    void write(std::string const& name, std::string const& bytes)
-    {
-        std::ofstream(name, std::ios::binary) << bytes;
-    }
+    void write(std::string const& name, std::string const& bytes) { std::ofstream(name, std::ios::binary) << bytes; }
 
     CmdCsvScript* script = nullptr;
 };
@@ -58,10 +55,9 @@ TEST(CsvScriptText, HeaderNamesTheFileTheCommandAndEveryKeyword)
 
 TEST(CsvScriptText, CommandLineTakesColumnsAndCopiesLiterals)
 {
-    std::vector<Keyword> const keywords{literal(ModifierId::MODIFIER_ZEK, "0"),
-                                        literal(ModifierId::MODIFIER_ACCEPT_RISK, ""),
-                                        column(ModifierId::MODIFIER_LUN_WWULN, 2, "csv_c"),
-                                        literal(ModifierId::MODIFIER_MAX_READ, "2014")};
+    std::vector<Keyword> const keywords{
+        literal(ModifierId::MODIFIER_ZEK, "0"), literal(ModifierId::MODIFIER_ACCEPT_RISK, ""),
+        column(ModifierId::MODIFIER_LUN_WWULN, 2, "csv_c"), literal(ModifierId::MODIFIER_MAX_READ, "2014")};
     EXPECT_EQ("\nenable cache  -zek=0 -accept_risk -lun_wwuln=600A -max_read=2014",
               CmdCsvScript::commandLineText("enable cache", keywords, CsvLineCells("x, y , 600A ,z")));
 }
@@ -109,8 +105,9 @@ TEST_F(CsvScriptTest, KeywordsComeInTheOrderOfTheirIdsAndColumnsAreFoundWithoutC
 TEST_F(CsvScriptTest, ScriptFileGetsHeaderRowsAndOneClosingLineEnd)
 {
     write("in.csv", "2,T1\r\n\n3,\n4,T2\nlast,no-end");
-    ASSERT_EQ(0, run("script csv -csv_file=in.csv -file=out.cfg -cmd=\"enable cache\" -lun_number=csv_a "
-                     "-fc_target=csv_B -zek=0"))
+    ASSERT_EQ(0,
+              run("script csv -csv_file=in.csv -file=out.cfg -cmd=\"enable cache\" -lun_number=csv_a "
+                  "-fc_target=csv_B -zek=0"))
         << err << out;
     EXPECT_EQ("Script file \"out.cfg\" for CSV file \"in.csv\" created successfully\n", out);
     EXPECT_EQ("# Script for comma separated value file in.csv\n"

@@ -53,7 +53,7 @@ class CsvLineCells {
 public:
     explicit CsvLineCells(std::string const& line);
 
-    std::string valueAt(unsigned index) const;
+    std::string const& valueAt(unsigned index) const;
 
 private:
     std::vector<std::string> values; // one per cut, trimmed; the last one stands for all beyond
