@@ -1,15 +1,13 @@
 #include "scripting/CmdCsvMerge.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <dirent.h>
 #include <sys/stat.h>
 
 #include "commands/CommandDeclaration.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CsvMergeReport.h"
+#include "scripting/CsvOutputFile.h"
 
 namespace {
 
@@ -32,11 +30,6 @@ bool isRegularFile(std::string const& path)
 {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
-}
-
-std::string writeFailureText(std::string const& name)
-{
-    return "Unable to write file \"" + name + "\", (" + std::strerror(errno) + ")";
 }
 
 } // namespace
@@ -101,18 +94,16 @@ int CmdCsvMerge::execCommand(std::string& err)
         return ZEKCLI_PARSE_FAIL;
     bool const toFile = !fileKeyword->isDefault;
     std::string const outputName = fileKeyword->value;
-    FILE* output = nullptr;
-    if (toFile && !safe_fopen(&output, outputName, "w", err))
+    CsvOutputFile output;
+    if (toFile && !output.open(outputName, err))
         return ZEKCLI_OUTPUT_FAIL;
     bool const folderGiven = !folderKeyword->isDefault && !folderKeyword->value.empty();
     CsvMergeReport report;
     int rc = readFolder(folderGiven ? folderKeyword->value : ".", report, err);
     if (rc == ZEKCLI_OK)
-        rc = writeReport(report, output, outputName, err);
-    if (output && std::fclose(output) != 0 && rc == ZEKCLI_OK) {
-        err = writeFailureText(outputName);
+        rc = writeReport(report, output, err);
+    if (!output.close(err) && rc == ZEKCLI_OK)
         rc = ZEKCLI_OUTPUT_FAIL;
-    }
     if (rc != ZEKCLI_OK)
         return rc;
     std::string const text = toFile ? "CSV output file " + outputName + " created successfully" : std::string();
@@ -120,18 +111,12 @@ int CmdCsvMerge::execCommand(std::string& err)
 }
 
 // To a file as it stands; to the console as displayed text.
-int CmdCsvMerge::writeReport(CsvMergeReport& report, FILE* output, std::string const& outputName,
-                             std::string& err) const
+int CmdCsvMerge::writeReport(CsvMergeReport& report, CsvOutputFile& output, std::string& err) const
 {
     report.buildColumns();
     return report.write(
         [&](std::string const& text, std::string& writeErr) {
-            if (!output)
-                return outDisplay(text, writeErr);
-            if (std::fwrite(text.data(), 1, text.size(), output) == text.size())
-                return true;
-            writeErr = writeFailureText(outputName);
-            return false;
+            return output.isOpen() ? output.write(text, writeErr) : outDisplay(text, writeErr);
         },
         err);
 }

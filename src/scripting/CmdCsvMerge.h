@@ -8,6 +8,7 @@
 #include "core/TokenCmd.h"
 
 class CsvMergeReport;
+class CsvOutputFile;
 
 class CmdCsvMerge : public TokenCmd {
 public:
@@ -23,5 +24,5 @@ public:
     static int readFolder(std::string const& folder, CsvMergeReport& report, std::string& err);
 
 private:
-    int writeReport(CsvMergeReport& report, FILE* output, std::string const& outputName, std::string& err) const;
+    int writeReport(CsvMergeReport& report, CsvOutputFile& output, std::string& err) const;
 };

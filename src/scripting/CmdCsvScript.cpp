@@ -8,6 +8,7 @@
 #include "core/ZekcliReturn.h"
 #include "scripting/CmdCsvScriptKeywordList.h"
 #include "scripting/CsvFile.h"
+#include "scripting/CsvOutputFile.h"
 
 namespace {
 
@@ -36,11 +37,6 @@ void appendKeyword(std::string& text, CmdCsvScriptKeyword const& keyword)
 {
     text += " -";
     text += ModifierId::table().texts()[static_cast<std::size_t>(keyword.id)];
-}
-
-std::string writeFailureText(std::string const& name, int error)
-{
-    return "Unable to write file \"" + name + "\", (" + std::strerror(error) + ")";
 }
 
 } // namespace
@@ -88,16 +84,14 @@ int CmdCsvScript::execCommand(std::string& err)
     // A name remembered from an earlier run is never written over unasked:
     // without -file the name is empty, and the open below fails.
     std::string const scriptName = fileKeyword->isDefault ? std::string() : fileKeyword->value;
-    FILE* output = nullptr;
-    if (!safe_fopen(&output, scriptName, "w", err))
+    CsvOutputFile output;
+    if (!output.open(scriptName, err))
         return ZEKCLI_OUTPUT_FAIL;
     TokenModifierString const* const cmdKeyword = findModifier(ModifierId::MODIFIER_CMD, err);
-    int rc = cmdKeyword ? writeScript(input, output, csvName, cmdKeyword->value, scriptName, err) : ZEKCLI_PARSE_FAIL;
+    int rc = cmdKeyword ? writeScript(input, &output, csvName, cmdKeyword->value, err) : ZEKCLI_PARSE_FAIL;
     input.closeFile();
-    if (std::fclose(output) != 0 && rc == ZEKCLI_OK) {
-        err = writeFailureText(scriptName, errno);
+    if (!output.close(err) && rc == ZEKCLI_OK)
         rc = ZEKCLI_OUTPUT_FAIL;
-    }
     if (rc != ZEKCLI_OK)
         return rc;
     return outDisplay(doneText(csvName, scriptName), err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
@@ -160,38 +154,38 @@ std::string CmdCsvScript::commandLineText(std::string const& commandText,
     return text;
 }
 
-int CmdCsvScript::writeScript(CsvFile& input, FILE* output, std::string const& csvName, std::string const& commandText,
-                              std::string const& scriptName, std::string& err) const
+int CmdCsvScript::writeScript(CsvFile& input, CsvOutputFile* output, std::string const& csvName,
+                              std::string const& commandText, std::string& err) const
 {
     std::vector<CmdCsvScriptKeyword> const keywords = collectKeywords();
-    if (!writeText(output, headerText(csvName, commandText, keywords), true, scriptName, err))
+    if (!writeText(output, headerText(csvName, commandText, keywords), true, err))
         return ZEKCLI_OUTPUT_FAIL;
     while (input.getNextLine()) {
         if (input.currentLine().empty())
             continue;
-        if (!writeText(output, commandLineText(commandText, keywords, CsvLineCells(input.currentLine())), false,
-                       scriptName, err))
+        if (!writeText(output, commandLineText(commandText, keywords, CsvLineCells(input.currentLine())), false, err))
             return ZEKCLI_OUTPUT_FAIL;
     }
     if (input.readFailed()) {
         err = "Unable to read file \"" + csvName + "\", (" + std::strerror(input.readError()) + ")";
         return ZEKCLI_OUTPUT_FAIL;
     }
-    return writeText(output, "\n", false, scriptName, err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+    return writeText(output, "\n", false, err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
 }
 
 // To the console the header is a displayed text and the lines are printed as
 // they stand.
-bool CmdCsvScript::writeText(FILE* output, std::string const& text, bool displayed, std::string const& scriptName,
-                             std::string& err) const
+bool CmdCsvScript::writeText(CsvOutputFile* output, std::string const& text, bool displayed, std::string& err) const
 {
     if (text.empty())
         return true;
-    if (!output && displayed)
+    if (output)
+        return output->write(text, err);
+    if (displayed)
         return outDisplay(text, err);
-    FILE* const stream = output ? output : stdout;
-    if (std::fwrite(text.data(), 1, text.size(), stream) == text.size())
+    errno = 0;
+    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size())
         return true;
-    err = writeFailureText(output ? scriptName : "standard output", errno);
+    err = std::string("Unable to write to the console, (") + std::strerror(errno != 0 ? errno : EIO) + ")";
     return false;
 }

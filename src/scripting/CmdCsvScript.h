@@ -2,7 +2,6 @@
 // any command may stand in the template, so this command accepts them all.
 #pragma once
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -11,6 +10,7 @@
 
 class CsvFile;
 class CsvLineCells;
+class CsvOutputFile;
 
 class CmdCsvScript : public TokenCmd {
 public:
@@ -24,8 +24,8 @@ public:
 
     // Writes the script for the rows of `input` to `output`, or to the console
     // when it is null. 0, or ZEKCLI_OUTPUT_FAIL.
-    int writeScript(CsvFile& input, FILE* output, std::string const& csvName, std::string const& commandText,
-                    std::string const& scriptName, std::string& err) const;
+    int writeScript(CsvFile& input, CsvOutputFile* output, std::string const& csvName, std::string const& commandText,
+                    std::string& err) const;
 
     static std::string doneText(std::string const& csvName, std::string const& scriptName);
     static std::string headerText(std::string const& csvName, std::string const& commandText,
@@ -35,6 +35,5 @@ public:
                                        CsvLineCells const& cells);
 
 private:
-    bool writeText(FILE* output, std::string const& text, bool displayed, std::string const& scriptName,
-                   std::string& err) const;
+    bool writeText(CsvOutputFile* output, std::string const& text, bool displayed, std::string& err) const;
 };

@@ -152,7 +152,7 @@ TEST_F(CsvScriptTest, ConsoleGetsTheHeaderAsDisplayedTextAndTheLinesAsTheyStand)
     CsvFile input;
     ASSERT_TRUE(input.openFile("in.csv", "r", err));
     ::testing::internal::CaptureStdout();
-    int const rc = script->writeScript(input, nullptr, "in.csv", "c", "", err);
+    int const rc = script->writeScript(input, nullptr, "in.csv", "c", err);
     std::fflush(stdout);
     std::string const console = ::testing::internal::GetCapturedStdout();
     EXPECT_EQ(ZEKCLI_OK, rc) << err;

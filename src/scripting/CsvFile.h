@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "scripting/BlockLineReader.h"
+
 class CsvFile {
 public:
     CsvFile() = default;
@@ -28,8 +30,8 @@ public:
     std::string const& currentLine() const { return line; }
     // Whether the end came from a failed read (a folder, a device error)
     // rather than from the end of the file, and its errno.
-    bool readFailed() const { return readErrno != 0; }
-    int readError() const { return readErrno; }
+    bool readFailed() const { return reader.readError() != 0; }
+    int readError() const { return reader.readError(); }
 
     static std::string parseNext(std::string& rest, std::string const& delimiter);
     static std::string parseNextSkipQuotedString(std::string& rest, std::string const& delimiter);
@@ -43,7 +45,10 @@ public:
 protected:
     FILE* file = nullptr;
     std::string line;
-    int readErrno = 0;
+
+private:
+    BlockLineReader reader;
+    std::string nextLine; // kept to keep its capacity from line to line
 };
 
 // The answers of getColumnValueByIndex for every index of one line, from a
