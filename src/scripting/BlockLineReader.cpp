@@ -33,7 +33,8 @@ std::size_t BlockLineReader::nextCarriageReturn()
 {
     if (carriageReturn == kUnknown || carriageReturn < pos) {
         void const* const found = std::memchr(block.data() + pos, '\r', block.size() - pos);
-        carriageReturn = found ? static_cast<std::size_t>(static_cast<char const*>(found) - block.data()) : block.size();
+        carriageReturn =
+            found ? static_cast<std::size_t>(static_cast<char const*>(found) - block.data()) : block.size();
     }
     return carriageReturn;
 }

@@ -36,16 +36,24 @@ protected:
         return info.csvOpenFile(write("f.csv", bytes), err);
     }
 
-    static long long utc(int year, int month, int day, int hour, int minute, int second)
+    // Seconds of a "YYYY-MM-DD hh:mm:ss" in UTC.
+    static long long utc(char const* text)
     {
         std::tm t{};
-        t.tm_year = year - 1900;
-        t.tm_mon = month - 1;
-        t.tm_mday = day;
-        t.tm_hour = hour;
-        t.tm_min = minute;
-        t.tm_sec = second;
+        strptime(text, "%Y-%m-%d %H:%M:%S", &t);
         return static_cast<long long>(timegm(&t));
+    }
+
+    // The times of the samples of a file, from the first to the last.
+    std::vector<long long> sampleTimes(std::string const& bytes)
+    {
+        std::vector<long long> times;
+        if (!open(bytes))
+            return times;
+        do
+            times.push_back(info.sampleTime.getPosixTime());
+        while (info.getNextSample());
+        return times;
     }
 
     ScopedEnvironmentVariable zone{"TZ", "UTC"};
@@ -81,7 +89,7 @@ TEST_F(CsvFileInfoTest, LunFileIsIdentifiedWithItsTitlesAndFirstSample)
     EXPECT_EQ("LUN,2,0,2100-0024-FF3C-5A10,", info.fileIdentification);
     ASSERT_EQ(2u, info.titleLines.size());
     EXPECT_EQ("Date,Time,Cached", info.titleLines[1]);
-    EXPECT_EQ(utc(2026, 11, 18, 8, 26, 40), info.sampleTime.getPosixTime());
+    EXPECT_EQ(utc("2026-11-18 08:26:40"), info.sampleTime.getPosixTime());
     EXPECT_EQ((std::vector<double>{1.0, 25.5}), info.sampleValues);
     EXPECT_FALSE(info.sampleUsed);
     EXPECT_EQ("2100-0024-FF3C-5A10", info.getFileIdentificationPart(3));
@@ -145,7 +153,7 @@ TEST_F(CsvFileInfoTest, LaterSamplesKeepTheFirstSamplesValuesAtTheirIndexes)
     EXPECT_EQ((std::vector<double>{1, 2}), info.sampleValues);
     ASSERT_TRUE(info.getNextSample());
     EXPECT_EQ((std::vector<double>{1, 2, 3, 4}), info.sampleValues);
-    EXPECT_EQ(utc(2026, 1, 1, 0, 0, 10), info.sampleTime.getPosixTime());
+    EXPECT_EQ(utc("2026-01-01 00:00:10"), info.sampleTime.getPosixTime());
     ASSERT_TRUE(info.getNextSample());
     EXPECT_EQ((std::vector<double>{1, 2, 3, 4}), info.sampleValues) << "no growth past what is read";
     EXPECT_FALSE(info.getNextSample());
@@ -182,34 +190,28 @@ TEST_F(CsvFileInfoTest, CellsGoThroughStrtod)
 
 TEST_F(CsvFileInfoTest, MissingDatePartsCountAsOneAndAMissingYearAsNineteenHundred)
 {
-    ASSERT_TRUE(open("LUN,1,0,A,\n\n11,08:26:40,1,\n5/,1:2:3,\n,,\n"));
-    EXPECT_EQ(utc(1900, 11, 1, 8, 26, 40), info.sampleTime.getPosixTime());
-    ASSERT_TRUE(info.getNextSample());
-    EXPECT_EQ(utc(1900, 5, 1, 1, 2, 3), info.sampleTime.getPosixTime());
-    ASSERT_TRUE(info.getNextSample());
-    EXPECT_EQ(utc(1900, 1, 1, 1, 1, 1), info.sampleTime.getPosixTime());
+    EXPECT_EQ(
+        (std::vector<long long>{utc("1900-11-01 08:26:40"), utc("1900-05-01 01:02:03"), utc("1900-01-01 01:01:01")}),
+        sampleTimes("LUN,1,0,A,\n\n11,08:26:40,1,\n5/,1:2:3,\n,,\n"));
 }
 
 TEST_F(CsvFileInfoTest, MissingTimePartsCountAsOne)
 {
-    ASSERT_TRUE(open("LUN,1,0,A,\n\n1/2/2026,10,1,\n1/2/2026,10:20,1,\n1/2/2026\n"));
-    EXPECT_EQ(utc(2026, 1, 2, 10, 1, 1), info.sampleTime.getPosixTime());
-    ASSERT_TRUE(info.getNextSample());
-    EXPECT_EQ(utc(2026, 1, 2, 10, 20, 1), info.sampleTime.getPosixTime());
-    ASSERT_TRUE(info.getNextSample());
-    EXPECT_EQ(utc(2026, 1, 2, 1, 1, 1), info.sampleTime.getPosixTime());
+    EXPECT_EQ(
+        (std::vector<long long>{utc("2026-01-02 10:01:01"), utc("2026-01-02 10:20:01"), utc("2026-01-02 01:01:01")}),
+        sampleTimes("LUN,1,0,A,\n\n1/2/2026,10,1,\n1/2/2026,10:20,1,\n1/2/2026\n"));
 }
 
 TEST_F(CsvFileInfoTest, OutOfRangeFieldsRollOverAsTheCalendarDoes)
 {
     ASSERT_TRUE(open("LUN,1,0,A,\n\n13/40/2025,25:61:61,1,\n"));
-    EXPECT_EQ(utc(2026, 2, 10, 2, 2, 1), info.sampleTime.getPosixTime());
+    EXPECT_EQ(utc("2026-02-10 02:02:01"), info.sampleTime.getPosixTime());
 }
 
 TEST_F(CsvFileInfoTest, BlanksAroundDateAndTimePartsAreAllowed)
 {
     ASSERT_TRUE(open("LUN,1,0,A,\n\n 11/ 18 /2026\t, 8:26: 40 ,1,\n"));
-    EXPECT_EQ(utc(2026, 11, 18, 8, 26, 40), info.sampleTime.getPosixTime());
+    EXPECT_EQ(utc("2026-11-18 08:26:40"), info.sampleTime.getPosixTime());
 }
 
 TEST_F(CsvFileInfoTest, DatesAndTimesThatCannotBeConvertedEndTheFile)
@@ -227,14 +229,14 @@ TEST_F(CsvFileInfoTest, DatesAndTimesThatCannotBeConvertedEndTheFile)
 TEST_F(CsvFileInfoTest, FarYearsThatTheCalendarHoldsAreRead)
 {
     ASSERT_TRUE(open("LUN,1,0,A,\n\n1/1/99999,0:0:0,1,\n"));
-    EXPECT_EQ(utc(99999, 1, 1, 0, 0, 0), info.sampleTime.getPosixTime());
+    EXPECT_EQ("01/01/99999", info.sampleTime.displayGmtDate());
 }
 
 TEST_F(CsvFileInfoTest, CarriageReturnLineEndsAreRead)
 {
     ASSERT_TRUE(open("LUN,1,0,A,\r\nt\r\n\r\n1/1/2026,0:0:5,3,\r\n"));
     EXPECT_EQ("LUN,1,0,A,", info.fileIdentification);
-    EXPECT_EQ(utc(2026, 1, 1, 0, 0, 5), info.sampleTime.getPosixTime());
+    EXPECT_EQ(utc("2026-01-01 00:00:05"), info.sampleTime.getPosixTime());
     EXPECT_EQ((std::vector<double>{3}), info.sampleValues);
 }
 

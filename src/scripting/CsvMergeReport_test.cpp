@@ -27,6 +27,16 @@ std::string row(std::string const& clock, double a, double b, double c, double d
 std::string const kHeaderOneTarget = ",,Target T1,,,,\nDate,Time,Read Block/sec,Write Block/sec,Read I/O/sec,"
                                      "Write I/O/sec,\n";
 
+// The table of one target as expected: its titles, then one row per clock,
+// all with the same values.
+std::string oneTargetTable(std::vector<std::string> const& clocks, std::string const& values)
+{
+    std::string table = kHeaderOneTarget;
+    for (std::string const& clock : clocks)
+        table += "11/18/2026," + clock + "," + values;
+    return table;
+}
+
 class CsvMergeReportTest : public ::testing::Test {
 protected:
     void SetUp() override
@@ -127,9 +137,7 @@ TEST_F(CsvMergeReportTest, PortFileFeedsNoColumnButDrivesTheGrid)
     add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 2, 3, 4));
     add("p.csv", "PORT,FC,0\n\n" + row("08:00:00", 9, 9, 9, 9) + row("08:00:25", 9, 9, 9, 9));
     std::string const values = "1.000000,2.000000,3.000000,4.000000,\n";
-    EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:20," + values,
-              merged());
+    EXPECT_EQ(oneTargetTable({"08:00:00", "08:00:10", "08:00:20", "08:00:20"}, values), merged());
 }
 
 TEST_F(CsvMergeReportTest, OnlyPortFilesGiveRowsWithoutColumns)
@@ -143,27 +151,21 @@ TEST_F(CsvMergeReportTest, SampleExactlyTenSecondsOnFallsIntoTheWindowAndIsNotSe
     add("a.csv",
         lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:10", 1, 1, 1, 1) + row("08:00:21", 1, 1, 1, 1));
     std::string const values = "1.000000,1.000000,1.000000,1.000000,\n";
-    EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:20," + values,
-              merged());
+    EXPECT_EQ(oneTargetTable({"08:00:00", "08:00:10", "08:00:20", "08:00:20"}, values), merged());
 }
 
 TEST_F(CsvMergeReportTest, GapsRepeatTheSums)
 {
     add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 2, 3, 4) + row("08:00:35", 1, 2, 3, 4));
     std::string const values = "1.000000,2.000000,3.000000,4.000000,\n";
-    EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:30," + values + "11/18/2026,08:00:30," + values,
-              merged());
+    EXPECT_EQ(oneTargetTable({"08:00:00", "08:00:10", "08:00:20", "08:00:30", "08:00:30"}, values), merged());
 }
 
 TEST_F(CsvMergeReportTest, LaterSamplesReuseTheFirstSamplesValues)
 {
     add("a.csv", lunHead(1, "T1") + row("08:00:00", 1, 2, 3, 4) + row("08:00:15", 100, 200, 300, 400));
     std::string const values = "1.000000,2.000000,3.000000,4.000000,\n";
-    EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:10," + values,
-              merged());
+    EXPECT_EQ(oneTargetTable({"08:00:00", "08:00:10", "08:00:10"}, values), merged());
 }
 
 TEST_F(CsvMergeReportTest, FilesOfTheSameFirstLineMakeARunningMean)
@@ -191,9 +193,7 @@ TEST_F(CsvMergeReportTest, SampleGoingBackInTimeGoesIntoTheCurrentWindow)
         lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:25", 1, 1, 1, 1) + row("07:00:00", 1, 1, 1, 1) +
             row("08:00:31", 1, 1, 1, 1));
     std::string const values = "1.000000,1.000000,1.000000,1.000000,\n";
-    EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:20," + values + "11/18/2026,08:00:30," + values + "11/18/2026,08:00:30," + values,
-              merged());
+    EXPECT_EQ(oneTargetTable({"08:00:00", "08:00:10", "08:00:20", "08:00:30", "08:00:30"}, values), merged());
 }
 
 TEST_F(CsvMergeReportTest, UnconvertibleDateEndsThatFileOnly)
@@ -202,9 +202,7 @@ TEST_F(CsvMergeReportTest, UnconvertibleDateEndsThatFileOnly)
         lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1) + "xx/1/2026,08:00:30,5,5,5,5,\n" + row("08:00:40", 1, 1, 1, 1));
     add("b.csv", lunHead(2, "T1") + row("08:00:00", 1, 1, 1, 1) + row("08:00:12", 1, 1, 1, 1));
     std::string const values = "2.000000,2.000000,2.000000,2.000000,\n";
-    EXPECT_EQ(kHeaderOneTarget + "11/18/2026,08:00:00," + values + "11/18/2026,08:00:10," + values +
-                  "11/18/2026,08:00:10," + values,
-              merged());
+    EXPECT_EQ(oneTargetTable({"08:00:00", "08:00:10", "08:00:10"}, values), merged());
 }
 
 TEST_F(CsvMergeReportTest, SamplesMoreThanTenYearsApartStopTheMerge)
