@@ -24,6 +24,11 @@ bool endsWithCsv(std::string const& name)
     return name.size() >= suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
 }
 
+std::string pathInFolder(std::string const& folder, std::string const& name)
+{
+    return folder.empty() || folder.back() == '/' ? folder + name : folder + "/" + name;
+}
+
 // A FIFO would block the merge for ever and a folder has no lines; only
 // regular files (or links to them) are read.
 bool isRegularFile(std::string const& path)
@@ -60,7 +65,7 @@ bool CmdCsvMerge::csvFileNamesOf(std::string const& folder, std::vector<std::str
         return false;
     while (dirent const* entry = readdir(dir)) {
         std::string const name = entry->d_name;
-        if (endsWithCsv(name) && isRegularFile(folder + "/" + name))
+        if (endsWithCsv(name) && isRegularFile(pathInFolder(folder, name)))
             names.push_back(name);
     }
     closedir(dir);
@@ -77,7 +82,7 @@ int CmdCsvMerge::readFolder(std::string const& folder, CsvMergeReport& report, s
         return ZEKCLI_OK;
     }
     for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        if (report.addFile(folder + "/" + *name, err) == CsvMergeReport::MERGE_STOPPED)
+        if (report.addFile(pathInFolder(folder, *name), err) == CsvMergeReport::MERGE_STOPPED)
             return ZEKCLI_CMD_FAIL;
     }
     return ZEKCLI_OK;

@@ -29,6 +29,11 @@ On the console every piece is a displayed text, so a blank line follows each.
   11/18/2026,08:00:00,1.000000,2.000000,3.000000,4.000000,
   
 
+-quiet silences the console as for every command, and a folder may be named
+with a trailing slash.
+
+  $ hostcli -zek merge csv -csv_folder=one/ -quiet
+
 Without -csv_folder the working directory is read.
 
   $ cd one && hostcli -zek merge csv -file=../here.txt; cd ..
