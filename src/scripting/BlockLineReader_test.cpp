@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "core/TempDirectory_test.h"
 #include "core/TokenCmd.h"
 #include "scripting/BlockLineReader.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CsvMergeReport.h"
 #include "scripting/CsvOutputFile.h"
@@ -104,24 +105,30 @@ int CmdCsvMerge::execCommand(std::string& err)
         return ZEKCLI_OUTPUT_FAIL;
     bool const folderGiven = !folderKeyword->isDefault && !folderKeyword->value.empty();
     CsvMergeReport report;
+    CommandOutput out(*this);
     int rc = readFolder(folderGiven ? folderKeyword->value : ".", report, err);
     if (rc == ZEKCLI_OK)
-        rc = writeReport(report, output, err);
-    if (!output.close(err) && rc == ZEKCLI_OK)
-        rc = ZEKCLI_OUTPUT_FAIL;
-    if (rc != ZEKCLI_OK)
-        return rc;
-    std::string const text = toFile ? "CSV output file " + outputName + " created successfully" : std::string();
-    return outDisplay(text, err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+        rc = writeReport(report, output, out, err);
+    std::string closeErr;
+    if (!output.close(closeErr))
+        out.fail(closeErr);
+    if (rc == ZEKCLI_OK && toFile)
+        out.line("CSV output file " + outputName + " created successfully");
+    return out.end(rc, err);
 }
 
 // To a file as it stands; to the console as displayed text.
-int CmdCsvMerge::writeReport(CsvMergeReport& report, CsvOutputFile& output, std::string& err) const
+int CmdCsvMerge::writeReport(CsvMergeReport& report, CsvOutputFile& output, CommandOutput& out, std::string& err) const
 {
     report.buildColumns();
     return report.write(
         [&](std::string const& text, std::string& writeErr) {
-            return output.isOpen() ? output.write(text, writeErr) : outDisplay(text, writeErr);
+            if (!output.isOpen())
+                return out.line(text);
+            if (output.write(text, writeErr))
+                return true;
+            out.fail(writeErr);
+            return false;
         },
         err);
 }

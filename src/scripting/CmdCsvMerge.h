@@ -7,6 +7,7 @@
 
 #include "core/TokenCmd.h"
 
+class CommandOutput;
 class CsvMergeReport;
 class CsvOutputFile;
 
@@ -24,5 +25,5 @@ public:
     static int readFolder(std::string const& folder, CsvMergeReport& report, std::string& err);
 
 private:
-    int writeReport(CsvMergeReport& report, CsvOutputFile& output, std::string& err) const;
+    int writeReport(CsvMergeReport& report, CsvOutputFile& output, CommandOutput& out, std::string& err) const;
 };

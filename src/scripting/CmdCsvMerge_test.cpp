@@ -4,10 +4,10 @@
 #include <sys/stat.h>
 #include <vector>
 
-#include "core/TempDirectory_test.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CmdCsvMerge.h"
 #include "scripting/CsvMergeReport.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

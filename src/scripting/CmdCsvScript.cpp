@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CmdCsvScriptKeywordList.h"
 #include "scripting/CsvFile.h"
@@ -88,13 +89,16 @@ int CmdCsvScript::execCommand(std::string& err)
     if (!output.open(scriptName, err))
         return ZEKCLI_OUTPUT_FAIL;
     TokenModifierString const* const cmdKeyword = findModifier(ModifierId::MODIFIER_CMD, err);
-    int rc = cmdKeyword ? writeScript(input, &output, csvName, cmdKeyword->value, err) : ZEKCLI_PARSE_FAIL;
+    if (!cmdKeyword)
+        return ZEKCLI_PARSE_FAIL;
+    CommandOutput out(*this);
+    writeScript(input, &output, out, csvName, cmdKeyword->value);
     input.closeFile();
-    if (!output.close(err) && rc == ZEKCLI_OK)
-        rc = ZEKCLI_OUTPUT_FAIL;
-    if (rc != ZEKCLI_OK)
-        return rc;
-    return outDisplay(doneText(csvName, scriptName), err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+    std::string closeErr;
+    if (!output.close(closeErr))
+        out.fail(closeErr);
+    out.line(doneText(csvName, scriptName));
+    return out.end(ZEKCLI_OK, err);
 }
 
 // With no script file named, the script went to the console.
@@ -154,38 +158,41 @@ std::string CmdCsvScript::commandLineText(std::string const& commandText,
     return text;
 }
 
-int CmdCsvScript::writeScript(CsvFile& input, CsvOutputFile* output, std::string const& csvName,
-                              std::string const& commandText, std::string& err) const
+bool CmdCsvScript::writeScript(CsvFile& input, CsvOutputFile* output, CommandOutput& out, std::string const& csvName,
+                               std::string const& commandText) const
 {
     std::vector<CmdCsvScriptKeyword> const keywords = collectKeywords();
-    if (!writeText(output, headerText(csvName, commandText, keywords), true, err))
-        return ZEKCLI_OUTPUT_FAIL;
+    if (!writeText(output, out, headerText(csvName, commandText, keywords), true))
+        return false;
     while (input.getNextLine()) {
         if (input.currentLine().empty())
             continue;
-        if (!writeText(output, commandLineText(commandText, keywords, CsvLineCells(input.currentLine())), false, err))
-            return ZEKCLI_OUTPUT_FAIL;
+        if (!writeText(output, out, commandLineText(commandText, keywords, CsvLineCells(input.currentLine())), false))
+            return false;
     }
     if (input.readFailed()) {
-        err = "Unable to read file \"" + csvName + "\", (" + std::strerror(input.readError()) + ")";
-        return ZEKCLI_OUTPUT_FAIL;
+        out.fail("Unable to read file \"" + csvName + "\", (" + std::strerror(input.readError()) + ")");
+        return false;
     }
-    return writeText(output, "\n", false, err) ? ZEKCLI_OK : ZEKCLI_OUTPUT_FAIL;
+    return writeText(output, out, "\n", false);
 }
 
 // To the console the header is a displayed text and the lines are printed as
 // they stand.
-bool CmdCsvScript::writeText(CsvOutputFile* output, std::string const& text, bool displayed, std::string& err) const
+bool CmdCsvScript::writeText(CsvOutputFile* output, CommandOutput& out, std::string const& text, bool displayed) const
 {
     if (text.empty())
         return true;
-    if (output)
-        return output->write(text, err);
+    std::string writeErr;
+    if (output) {
+        if (!output->write(text, writeErr))
+            out.fail(writeErr);
+        return out.ok();
+    }
     if (displayed)
-        return outDisplay(text, err);
+        return out.line(text);
     errno = 0;
-    if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size())
-        return true;
-    err = std::string("Unable to write to the console, (") + std::strerror(errno != 0 ? errno : EIO) + ")";
-    return false;
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
+        out.fail(std::string("Unable to write to the console, (") + std::strerror(errno != 0 ? errno : EIO) + ")");
+    return out.ok();
 }

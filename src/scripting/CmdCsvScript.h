@@ -8,6 +8,7 @@
 #include "core/TokenCmd.h"
 #include "scripting/CmdCsvScriptKeyword.h"
 
+class CommandOutput;
 class CsvFile;
 class CsvLineCells;
 class CsvOutputFile;
@@ -23,9 +24,10 @@ public:
     std::vector<CmdCsvScriptKeyword> collectKeywords() const;
 
     // Writes the script for the rows of `input` to `output`, or to the console
-    // when it is null. 0, or ZEKCLI_OUTPUT_FAIL.
-    int writeScript(CsvFile& input, CsvOutputFile* output, std::string const& csvName, std::string const& commandText,
-                    std::string& err) const;
+    // when it is null; false, with the reason in `out`, when the input could
+    // not be read or the output not written.
+    bool writeScript(CsvFile& input, CsvOutputFile* output, CommandOutput& out, std::string const& csvName,
+                     std::string const& commandText) const;
 
     static std::string doneText(std::string const& csvName, std::string const& scriptName);
     static std::string headerText(std::string const& csvName, std::string const& commandText,
@@ -35,5 +37,5 @@ public:
                                        CsvLineCells const& cells);
 
 private:
-    bool writeText(CsvOutputFile* output, std::string const& text, bool displayed, std::string& err) const;
+    bool writeText(CsvOutputFile* output, CommandOutput& out, std::string const& text, bool displayed) const;
 };

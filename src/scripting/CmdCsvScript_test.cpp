@@ -4,10 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "core/CoreTestTree_test.h"
+#include "commands/CommandOutput.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CmdCsvScript.h"
 #include "scripting/CsvFile.h"
+#include "support/CoreTestTree.h"
 
 namespace {
 
@@ -151,11 +152,13 @@ TEST_F(CsvScriptTest, ConsoleGetsTheHeaderAsDisplayedTextAndTheLinesAsTheyStand)
     ASSERT_EQ(0, parser.parseCommandLine(err)) << err;
     CsvFile input;
     ASSERT_TRUE(input.openFile("in.csv", "r", err));
+    CommandOutput out(*script);
     ::testing::internal::CaptureStdout();
-    int const rc = script->writeScript(input, nullptr, "in.csv", "c", err);
+    bool const whole = script->writeScript(input, nullptr, out, "in.csv", "c");
     std::fflush(stdout);
     std::string const console = ::testing::internal::GetCapturedStdout();
-    EXPECT_EQ(ZEKCLI_OK, rc) << err;
+    EXPECT_TRUE(whole);
+    EXPECT_EQ(ZEKCLI_OK, out.end(ZEKCLI_OK, err)) << err;
     EXPECT_EQ("# Script for comma separated value file in.csv\n# >>> script csv -cmd=\"c\" -name=csv_a\n#\n\n"
               "\nc  -name=a\nc  -name=b\n",
               console);

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "core/TempDirectory_test.h"
 #include "scripting/CsvFileInfo.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

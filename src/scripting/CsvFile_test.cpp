@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "core/TempDirectory_test.h"
 #include "scripting/CsvFile.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <sys/resource.h>
 #include <vector>
 
-#include "core/TempDirectory_test.h"
 #include "core/ZekcliReturn.h"
 #include "scripting/CsvMergeReport.h"
+#include "support/TempDirectory.h"
 
 namespace {
 

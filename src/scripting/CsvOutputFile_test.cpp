@@ -3,8 +3,8 @@
 #include <iterator>
 #include <string>
 
-#include "core/TempDirectory_test.h"
 #include "scripting/CsvOutputFile.h"
+#include "support/TempDirectory.h"
 
 namespace {
 
