@@ -1,4 +1,3 @@
-#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/stat.h>
@@ -7,23 +6,18 @@
 #include "core/ZekcliReturn.h"
 #include "scripting/CmdCsvMerge.h"
 #include "scripting/CsvMergeReport.h"
-#include "support/TempDirectory.h"
+#include "support/ScratchFileTest.h"
 
 namespace {
 
-void touch(std::string const& path, std::string const& bytes = "")
-{
-    std::ofstream(path, std::ios::binary) << bytes;
-}
+using CsvMergeFolder = ScratchFileTest;
 
 } // namespace
 
-TEST(CsvMergeFolder, RegularCsvFilesInByteOrder)
+TEST_F(CsvMergeFolder, RegularCsvFilesInByteOrder)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
     for (char const* name : {"b.csv", "B.csv", "a.csv", "a.CSV", "notes.txt", "x.csv.bak", ".csv", "a b.csv"})
-        touch(dir.file(name));
+        writeFile(name, "");
     ASSERT_EQ(0, mkdir(dir.file("folder.csv").c_str(), 0755));
     ASSERT_EQ(0, mkfifo(dir.file("pipe.csv").c_str(), 0644));
     ASSERT_EQ(0, symlink(dir.file("a.csv").c_str(), dir.file("link.csv").c_str()));
@@ -33,19 +27,15 @@ TEST(CsvMergeFolder, RegularCsvFilesInByteOrder)
     EXPECT_EQ((std::vector<std::string>{".csv", "B.csv", "a b.csv", "a.csv", "b.csv", "link.csv"}), names);
 }
 
-TEST(CsvMergeFolder, MissingFolderCannotBeRead)
+TEST_F(CsvMergeFolder, MissingFolderCannotBeRead)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
     std::vector<std::string> names{"stale"};
     EXPECT_FALSE(CmdCsvMerge::csvFileNamesOf(dir.file("none"), names));
     EXPECT_TRUE(names.empty());
 }
 
-TEST(CsvMergeFolder, UnreadableFolderLeavesTheTitlesOnly)
+TEST_F(CsvMergeFolder, UnreadableFolderLeavesTheTitlesOnly)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
     CsvMergeReport report;
     std::string err;
     EXPECT_EQ(ZEKCLI_OK, CmdCsvMerge::readFolder(dir.file("none"), report, err));
@@ -53,15 +43,13 @@ TEST(CsvMergeFolder, UnreadableFolderLeavesTheTitlesOnly)
     EXPECT_EQ(0u, report.fileCount());
 }
 
-TEST(CsvMergeFolder, FilesAreTakenFromTheLastNameToTheFirst)
+TEST_F(CsvMergeFolder, FilesAreTakenFromTheLastNameToTheFirst)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
     std::string const tail = ",\n\n11/18/2026,08:00:00,1,1,1,1,\n";
-    touch(dir.file("a.csv"), "LUN,1,0,TA" + tail);
-    touch(dir.file("b.csv"), "LUN,2,0,TB" + tail);
-    touch(dir.file("c.csv"), "LUN,3,0,TC" + tail);
-    touch(dir.file("d.csv"), "not a statistics file\n");
+    writeFile("a.csv", "LUN,1,0,TA" + tail);
+    writeFile("b.csv", "LUN,2,0,TB" + tail);
+    writeFile("c.csv", "LUN,3,0,TC" + tail);
+    writeFile("d.csv", "not a statistics file\n");
     CsvMergeReport report;
     std::string err;
     ASSERT_EQ(ZEKCLI_OK, CmdCsvMerge::readFolder(dir.path, report, err));

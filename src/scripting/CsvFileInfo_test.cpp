@@ -5,7 +5,7 @@
 #include <string>
 
 #include "scripting/CsvFileInfo.h"
-#include "support/TempDirectory.h"
+#include "support/ScratchFileTest.h"
 
 namespace {
 
@@ -14,26 +14,12 @@ constexpr char kLunHead[] = "LUN,2,0,2100-0024-FF3C-5A10,\n"
                             "Date,Time,Cached\n"
                             "\n";
 
-// Times are read as local time; the tests pin the zone.
-class CsvFileInfoTest : public ::testing::Test {
+class CsvFileInfoTest : public ScratchFileTest {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(dir.made());
-        tzset();
-    }
-    void TearDown() override { tzset(); }
-
-    std::string write(std::string const& name, std::string const& bytes)
-    {
-        std::ofstream(dir.file(name), std::ios::binary) << bytes;
-        return dir.file(name);
-    }
-
     bool open(std::string const& bytes)
     {
         std::string err;
-        return info.csvOpenFile(write("f.csv", bytes), err);
+        return info.csvOpenFile(writeFile("f.csv", bytes), err);
     }
 
     // Seconds of a "YYYY-MM-DD hh:mm:ss" in UTC.
@@ -56,8 +42,6 @@ protected:
         return times;
     }
 
-    ScopedEnvironmentVariable zone{"TZ", "UTC"};
-    TempDirectory dir;
     CsvFileInfo info;
 };
 
@@ -139,7 +123,7 @@ TEST_F(CsvFileInfoTest, OpeningAgainStartsFromNothing)
 {
     ASSERT_TRUE(open("LUN,1,0,A,\nt\n\n1/1/2026,0:0:0,1,2,3,4,5,\n"));
     std::string err;
-    ASSERT_TRUE(info.csvOpenFile(write("g.csv", "PORT,GE\n\n1/1/2026,0:0:0,9,\n"), err));
+    ASSERT_TRUE(info.csvOpenFile(writeFile("g.csv", "PORT,GE\n\n1/1/2026,0:0:0,9,\n"), err));
     EXPECT_EQ(CsvFileInfo::CSV_FILE_PORT_GE, info.fileType);
     EXPECT_TRUE(info.titleLines.empty());
     EXPECT_EQ((std::vector<double>{9.0}), info.sampleValues);

@@ -1,16 +1,10 @@
-#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 
 #include "scripting/CsvFile.h"
-#include "support/TempDirectory.h"
+#include "support/ScratchFileTest.h"
 
 namespace {
-
-void writeFile(std::string const& path, std::string const& bytes)
-{
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string cell(std::string const& line, unsigned index)
 {
@@ -224,14 +218,25 @@ TEST(CsvColumn, OneWalkAnswersLikeRepeatedCuts)
 
 // ---- reading lines ---------------------------------------------------------
 
-TEST(CsvFileLines, LinesComeOneByOneAndTheUnterminatedLastIsNotUsed)
-{
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
-    writeFile(dir.file("a.csv"), "one\r\ntwo\n\nlast");
+namespace {
+
+class CsvFileLines : public ScratchFileTest {
+protected:
+    // Opens a file of these bytes.
+    void open(std::string const& bytes)
+    {
+        std::string err;
+        ASSERT_TRUE(csv.openFile(writeFile("a.csv", bytes), "r", err)) << err;
+    }
+
     CsvFile csv;
-    std::string err;
-    ASSERT_TRUE(csv.openFile(dir.file("a.csv"), "r", err)) << err;
+};
+
+} // namespace
+
+TEST_F(CsvFileLines, LinesComeOneByOneAndTheUnterminatedLastIsNotUsed)
+{
+    open("one\r\ntwo\n\nlast");
     ASSERT_TRUE(csv.getNextLine());
     EXPECT_EQ("one", csv.currentLine());
     ASSERT_TRUE(csv.getNextLine());
@@ -242,48 +247,34 @@ TEST(CsvFileLines, LinesComeOneByOneAndTheUnterminatedLastIsNotUsed)
     EXPECT_EQ("", csv.currentLine()) << "the line before the end stays";
 }
 
-TEST(CsvFileLines, AtTheEndTheCurrentLineStays)
+TEST_F(CsvFileLines, AtTheEndTheCurrentLineStays)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
-    writeFile(dir.file("a.csv"), "only\n");
-    CsvFile csv;
-    std::string err;
-    ASSERT_TRUE(csv.openFile(dir.file("a.csv"), "r", err)) << err;
+    open("only\n");
     ASSERT_TRUE(csv.getNextLine());
     EXPECT_FALSE(csv.getNextLine());
     EXPECT_FALSE(csv.getNextLine());
     EXPECT_EQ("only", csv.currentLine());
 }
 
-TEST(CsvFileLines, ClosedFileGivesNoLine)
+TEST_F(CsvFileLines, ClosedFileGivesNoLine)
 {
-    CsvFile csv;
     EXPECT_FALSE(csv.isOpen());
     EXPECT_FALSE(csv.getNextLine());
 }
 
-TEST(CsvFileLines, MissingFileReportsTheOpenFailure)
+TEST_F(CsvFileLines, MissingFileReportsTheOpenFailure)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
-    CsvFile csv;
     std::string err;
     EXPECT_FALSE(csv.openFile(dir.file("none.csv"), "r", err));
     EXPECT_EQ("Unable to open file \"" + dir.file("none.csv") + "\", (No such file or directory)", err);
     EXPECT_FALSE(csv.isOpen());
 }
 
-TEST(CsvFileLines, OpeningAgainClosesTheFirstFile)
+TEST_F(CsvFileLines, OpeningAgainClosesTheFirstFile)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
-    writeFile(dir.file("a.csv"), "a\n");
-    writeFile(dir.file("b.csv"), "b\n");
-    CsvFile csv;
+    open("a\n");
     std::string err;
-    ASSERT_TRUE(csv.openFile(dir.file("a.csv"), "r", err));
-    ASSERT_TRUE(csv.openFile(dir.file("b.csv"), "r", err));
+    ASSERT_TRUE(csv.openFile(writeFile("b.csv", "b\n"), "r", err));
     ASSERT_TRUE(csv.getNextLine());
     EXPECT_EQ("b", csv.currentLine());
     csv.closeFile();
@@ -291,16 +282,11 @@ TEST(CsvFileLines, OpeningAgainClosesTheFirstFile)
     EXPECT_FALSE(csv.getNextLine());
 }
 
-TEST(CsvFileLines, LongLineWithNulBytesIsReadWhole)
+TEST_F(CsvFileLines, LongLineWithNulBytesIsReadWhole)
 {
-    TempDirectory dir;
-    ASSERT_TRUE(dir.made());
     std::string big(1 << 20, 'x');
     big[17] = '\0';
-    writeFile(dir.file("big.csv"), big + "\n");
-    CsvFile csv;
-    std::string err;
-    ASSERT_TRUE(csv.openFile(dir.file("big.csv"), "r", err));
+    open(big + "\n");
     ASSERT_TRUE(csv.getNextLine());
     EXPECT_EQ(big, csv.currentLine());
 }

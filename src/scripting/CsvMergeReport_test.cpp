@@ -6,7 +6,7 @@
 
 #include "core/ZekcliReturn.h"
 #include "scripting/CsvMergeReport.h"
-#include "support/TempDirectory.h"
+#include "support/ScratchFileTest.h"
 
 namespace {
 
@@ -37,21 +37,13 @@ std::string oneTargetTable(std::vector<std::string> const& clocks, std::string c
     return table;
 }
 
-class CsvMergeReportTest : public ::testing::Test {
+class CsvMergeReportTest : public ScratchFileTest {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(dir.made());
-        tzset();
-    }
-    void TearDown() override { tzset(); }
-
     void add(std::string const& name, std::string const& bytes,
              CsvMergeReport::ADD_RESULT expected = CsvMergeReport::FILE_KEPT)
     {
-        std::ofstream(dir.file(name), std::ios::binary) << bytes;
         std::string err;
-        EXPECT_EQ(expected, report.addFile(dir.file(name), err)) << name;
+        EXPECT_EQ(expected, report.addFile(writeFile(name, bytes), err)) << name;
     }
 
     // The report as written, and the code.
@@ -76,8 +68,6 @@ protected:
         return text;
     }
 
-    ScopedEnvironmentVariable zone{"TZ", "UTC"};
-    TempDirectory dir;
     CsvMergeReport report;
     std::string lastErr;
 };
@@ -250,7 +240,7 @@ TEST_F(CsvMergeReportTest, RunningOutOfFileHandlesStopsTheMerge)
     ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &before));
     std::string const bytes = lunHead(1, "T1") + row("08:00:00", 1, 1, 1, 1);
     for (int i = 0; i < 40; ++i)
-        std::ofstream(dir.file("f" + std::to_string(i) + ".csv"), std::ios::binary) << bytes;
+        writeFile("f" + std::to_string(i) + ".csv", bytes);
     rlimit tight = before;
     tight.rlim_cur = 32;
     ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &tight));
