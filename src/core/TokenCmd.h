@@ -120,6 +120,26 @@ public:
     void testDeviceRelatedModifiers(bool& bAny, bool& bRequired) const;
     void setDefaultLunModifiers();
 
+    // Menu mode (src/interactive): numbered menus and the prompts that fill
+    // this command's keywords from them. Prompts answer 0 to go on, 56 for
+    // help, 57 for the main menu, 58 to quit, or an API code.
+    int getMenuSelection(std::vector<std::string> const& entries, int defaultIndex, std::string const& prompt,
+                         std::string const& line);
+    int promptForString(TokenModifierString* token, std::string& line, std::string& err);
+    int promptForEnum(TokenModifierString* token, std::string& line, std::string& err);
+    int promptForModifier(TokenModifierString* token, bool required, std::string& line, std::string& err);
+    int promptForTargetID(bool required, PTargetID& id, std::string& line, std::string& err);
+    int promptForInitiatorID(bool required, PInitiatorID& id, std::string& line, std::string& err);
+    int promptForDeviceID(bool required, KDeviceID& id, std::string& line, std::string& err);
+    int promptForClusterID(bool required, KClusterID& id, std::string& line, std::string& err);
+    int promptForDriveID(bool required, KDriveID& id, std::string& line, std::string& err);
+    int promptForLunID(bool required, PLunID& id, std::string& line, std::string& err);
+    int interactivePromptForModifiersThatSpanMultipleKeywords(std::string& line, std::string& err);
+    int interactivePromptForModifiersThatSelectFromList(std::string& line, std::string& err);
+    int interactivePromptForModifiersThatHaveNoParamData(std::string& line, std::string& err);
+    int interactivePromptForRequiredModifiers(std::string& line, std::string& err);
+    int interactivePromptForOptionalModifiersAndExecute(std::string& line, std::string& err);
+
     // Help texts.
     std::string ugOsPrompt() const;
     std::string ugCommand() const;

@@ -1,7 +1,11 @@
 #include "interactive/CmdZekcliInteractive.h"
 
 #include "commands/CommandDeclaration.h"
-#include "commands/NotAvailable.h"
+#include "core/TokenRoot.h"
+#include "core/TreeRoot.h"
+#include "core/ZekcliReturn.h"
+#include "interactive/MenuConsole.h"
+#include "interactive/MenuSession.h"
 
 namespace {
 
@@ -9,6 +13,19 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     commandRow(CmdAction::ACTION_INTERACTIVE, CmdItem::ITEM_CLI, TokenCmd::GROUP_ORDINARY),
     keywordRow(ModifierId::MODIFIER_ZEK, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
+};
+
+// A session can start another from its own menus; each level costs stack,
+// so input cannot pile them up without end.
+constexpr int kDeepestNesting = 32;
+int nestingDepth = 0;
+
+class NestedSession {
+public:
+    NestedSession() { ++nestingDepth; }
+    ~NestedSession() { --nestingDepth; }
+    NestedSession(NestedSession const&) = delete;
+    NestedSession& operator=(NestedSession const&) = delete;
 };
 
 } // namespace
@@ -29,5 +46,17 @@ CmdZekcliInteractive::CmdZekcliInteractive()
 
 int CmdZekcliInteractive::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    TokenRoot* const root = rootOfTree(this);
+    if (!root) {
+        err = "The command \"" + ugCommandLowCase() + "\" is not part of the command tree";
+        return ZEKCLI_CMD_FAIL;
+    }
+    if (nestingDepth >= kDeepestNesting) {
+        err = "Menu sessions are nested too deeply (more than " + std::to_string(kDeepestNesting) + " levels).";
+        return ZEKCLI_CMD_FAIL;
+    }
+    NestedSession const level;
+    if (nestingDepth == 1)
+        menu_console::resetInputEnded();
+    return MenuSession(*this, *root, err).run();
 }

@@ -17,8 +17,11 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     endRow(),
 };
 
-// The clustering software of the hosts, as the adapter numbers it.
-EnumStrList<int> const& hostClusterTypes()
+constexpr int kNoHostClustering = 1;
+
+} // namespace
+
+EnumStrList<int> const& CmdClusterCreate::hostClusterTypes()
 {
     static EnumStrList<int> const types = [] {
         EnumStrList<int> list;
@@ -32,10 +35,6 @@ EnumStrList<int> const& hostClusterTypes()
     }();
     return types;
 }
-
-constexpr int kNoHostClustering = 1;
-
-} // namespace
 
 CmdClusterCreate::CmdClusterCreate()
 {

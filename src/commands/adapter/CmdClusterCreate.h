@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/EnumStrList.h"
 #include "core/TokenCmd.h"
 
 class CmdClusterCreate : public TokenCmd {
@@ -10,4 +11,8 @@ public:
     CmdClusterCreate();
 
     int execCommand(std::string& err) override;
+
+    // The words of -host_cluster_type: the clustering software of the
+    // hosts, as the adapter numbers it.
+    static EnumStrList<int> const& hostClusterTypes();
 };
