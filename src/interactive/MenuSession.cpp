@@ -183,6 +183,15 @@ MenuSession::Outcome MenuSession::leftMenu(int selection)
     return startOver();
 }
 
+// The agent and adapter menus answer help with a text of their own.
+MenuSession::Outcome MenuSession::leftMenuShowing(int selection, std::string const& help)
+{
+    if (selection != MENU_HELP)
+        return leftMenu(selection);
+    session.outDisplay(help, err);
+    return startOver();
+}
+
 MenuSession::Outcome MenuSession::showSummaryHelp()
 {
     if (!root.displaySummaryHelp(err))
@@ -262,12 +271,8 @@ MenuSession::Outcome MenuSession::agentMenu(TokenCmd& chosen)
     if (!earlier.empty())
         entries.push_back("-agent=" + earlier);
     int const selection = menu(entries, earlier.empty() ? AGENT_LOCAL : AGENT_EARLIER);
-    if (selection == MENU_HELP) {
-        session.outDisplay(agentHelp(), err);
-        return startOver();
-    }
     if (selection < 0)
-        return leftMenu(selection);
+        return leftMenuShowing(selection, agentHelp());
     if (selection == AGENT_LOCAL) {
         agent->setValue("");
         agent->initDefaultFlag();
@@ -336,12 +341,8 @@ MenuSession::Outcome MenuSession::adapterMenu(TokenCmd& chosen)
             defaultIndex = static_cast<int>(entries.size()) - 1;
     }
     int const selection = menu(entries, std::max(defaultIndex, 0));
-    if (selection == MENU_HELP) {
-        session.outDisplay(adapterHelp(allAdapters), err);
-        return startOver();
-    }
     if (selection < 0)
-        return leftMenu(selection);
+        return leftMenuShowing(selection, adapterHelp(allAdapters));
     if (static_cast<size_t>(selection) < ids.size()) {
         lineText += entries[selection];
         zek->setValue(ids[selection]);

@@ -47,6 +47,7 @@ private:
     Outcome runCommand(TokenCmd& chosen);
 
     Outcome leftMenu(int selection);
+    Outcome leftMenuShowing(int selection, std::string const& help);
     Outcome afterInput(Outcome outcome) const;
     Outcome showSummaryHelp();
     Outcome showDetailedHelp(TokenCmd& chosen);

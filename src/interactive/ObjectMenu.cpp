@@ -75,34 +75,57 @@ void clearKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id)
     token->initDefaultFlag();
 }
 
-int addressedAdapter(TokenCmd& cmd, HIsaAdapter*& adapter, std::string& err)
+int storeChoice(TokenCmd& cmd, Choice const& choice, ModifierId::MODIFIER_ID chosen,
+                std::initializer_list<ModifierId::MODIFIER_ID> family, std::string const& value, std::string& line)
+{
+    if (choice.code != 0)
+        return choice.code;
+    for (ModifierId::MODIFIER_ID const id : family)
+        clearKeyword(cmd, id);
+    if (choice.index != kAll)
+        setKeyword(cmd, chosen, value, line);
+    return 0;
+}
+
+namespace {
+
+// What a gathering operation answered: a partial answer is told and used.
+int gathered(e_MHBA_RETURN rc, MHbaReturnBuffer const& firstError, std::string const& operation, std::string& err)
+{
+    if (rc == MHBA_S_PARTIAL_SUCCESS) {
+        menu_console::writeLine(operation + "() returned partial success.  At least one attempt to get info returned " +
+                                firstError.displayText());
+        return 0;
+    }
+    if (rc != MHBA_S_OK)
+        err = operation + " returned:  " + g_pHbaMgmtApi->returnCodeToText(rc);
+    return rc;
+}
+
+using Gathering = e_MHBA_RETURN (HIsaAdapter::*)(MHbaReturnBuffer*);
+
+int adapterGathering(TokenCmd& cmd, Gathering gathering, std::string const& operation, HIsaAdapter*& adapter,
+                     std::string& err)
 {
     AddressedAdapter addressed;
     int const rc = findAddressedAdapter(cmd, addressed, err);
     adapter = addressed.adapter;
-    return rc;
+    if (rc != 0)
+        return rc;
+    MHbaReturnBuffer firstError;
+    return gathered((adapter->*gathering)(&firstError), firstError, operation, err);
 }
 
-int gatherFabric(HIsaAdapter& adapter, std::string& err)
-{
-    MHbaReturnBuffer firstError;
-    e_MHBA_RETURN const rc = adapter.getTargetsAndInitiators(&firstError);
-    if (rc == MHBA_S_PARTIAL_SUCCESS) {
-        menu_console::writeLine(
-            "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
-            firstError.displayText());
-        return 0;
-    }
-    if (rc != MHBA_S_OK)
-        err = "getTargetsAndInitiators returned:  " + g_pHbaMgmtApi->returnCodeToText(rc);
-    return rc;
-}
+} // namespace
 
 int adapterWithFabric(TokenCmd& cmd, HIsaAdapter*& adapter, std::string& err)
 {
-    if (int const rc = addressedAdapter(cmd, adapter, err))
-        return rc;
-    return gatherFabric(*adapter, err);
+    return adapterGathering(cmd, &HIsaAdapter::getTargetsAndInitiators, "getTargetsAndInitiators", adapter, err);
+}
+
+int adapterWithDrives(TokenCmd& cmd, HIsaAdapter*& adapter, std::string& err)
+{
+    return adapterGathering(cmd, &HIsaAdapter::getDrivesWithErrorDetails, "getDrivesWithErrorDetails", adapter, err);
 }
 
 std::string oneLine(std::string const& label)

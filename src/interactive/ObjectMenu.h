@@ -3,6 +3,7 @@
 // the choice into the command's keywords and the command line shown.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -40,15 +41,17 @@ std::string keywordValue(TokenCmd const& cmd, ModifierId::MODIFIER_ID id);
 void setKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id, std::string const& value, std::string& line);
 // Leaves a keyword out again, with no value.
 void clearKeyword(TokenCmd& cmd, ModifierId::MODIFIER_ID id);
+// Writes what was chosen: every keyword of the family is left out, then the
+// chosen one takes `value` unless "All" was chosen. The control code of the
+// choice, or 0.
+int storeChoice(TokenCmd& cmd, Choice const& choice, ModifierId::MODIFIER_ID chosen,
+                std::initializer_list<ModifierId::MODIFIER_ID> family, std::string const& value, std::string& line);
 
-// The adapter that -zek names now, found among those the library holds.
-int addressedAdapter(TokenCmd& cmd, HIsaAdapter*& adapter, std::string& err);
-// Targets, initiators and devices of the adapter, asked of it anew. A partial
-// answer is told and used; a failure is the result, with its words in `err`.
-int gatherFabric(HIsaAdapter& adapter, std::string& err);
-
-// The same adapter with what it sees on the fabric asked anew.
+// The adapter that -zek names now, with its targets, initiators and devices, or its drives,
+// asked of it anew. A partial answer is told and used; a failure is the
+// result, with its words in `err`.
 int adapterWithFabric(TokenCmd& cmd, HIsaAdapter*& adapter, std::string& err);
+int adapterWithDrives(TokenCmd& cmd, HIsaAdapter*& adapter, std::string& err);
 
 // The menu of the targets that the adapter sees, its own internal ones left
 // out as in the target lists. The choice goes into -fc_target or -is_target;

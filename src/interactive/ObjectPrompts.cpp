@@ -62,19 +62,6 @@ std::string eitherKeywordValue(TokenCmd const& cmd, ModifierId::MODIFIER_ID fc, 
     return value.empty() ? keywordValue(cmd, iscsi) : value;
 }
 
-// Takes the choice into one of two protocol keywords and leaves the other out.
-int storeChoice(TokenCmd& cmd, Choice const& choice, ModifierId::MODIFIER_ID chosenKeyword, ModifierId::MODIFIER_ID fc,
-                ModifierId::MODIFIER_ID iscsi, std::string const& value, std::string& line)
-{
-    if (choice.code != 0)
-        return choice.code;
-    clearKeyword(cmd, fc);
-    clearKeyword(cmd, iscsi);
-    if (choice.index != kAll)
-        setKeyword(cmd, chosenKeyword, value, line);
-    return 0;
-}
-
 std::vector<HTarget*> visibleTargets(HIsaAdapter& adapter)
 {
     std::vector<HTarget*> targets;
@@ -105,21 +92,6 @@ std::vector<HCluster*> namedClusters()
     return clusters;
 }
 
-int gatherDrives(HIsaAdapter& adapter, std::string& err)
-{
-    MHbaReturnBuffer firstError;
-    e_MHBA_RETURN const rc = adapter.getDrivesWithErrorDetails(&firstError);
-    if (rc == MHBA_S_PARTIAL_SUCCESS) {
-        menu_console::writeLine(
-            "getDrivesWithErrorDetails() returned partial success.  At least one attempt to get info returned " +
-            firstError.displayText());
-        return 0;
-    }
-    if (rc != MHBA_S_OK)
-        err = "getDrivesWithErrorDetails returned:  " + g_pHbaMgmtApi->returnCodeToText(rc);
-    return rc;
-}
-
 } // namespace
 
 int object_menu::chooseTarget(TokenCmd& cmd, HIsaAdapter& adapter, bool required, HTarget*& chosen, std::string& line)
@@ -140,7 +112,7 @@ int object_menu::chooseTarget(TokenCmd& cmd, HIsaAdapter& adapter, bool required
     PTargetID const* const id = chosen ? chosen->getTargetId() : nullptr;
     ModifierId::MODIFIER_ID const keyword =
         id && id->isIscsiTargetId() ? ModifierId::MODIFIER_IS_TARGET : ModifierId::MODIFIER_FC_TARGET;
-    return storeChoice(cmd, choice, keyword, ModifierId::MODIFIER_FC_TARGET, ModifierId::MODIFIER_IS_TARGET,
+    return storeChoice(cmd, choice, keyword, {ModifierId::MODIFIER_FC_TARGET, ModifierId::MODIFIER_IS_TARGET},
                        id ? id->displayText() : std::string(), line);
 }
 
@@ -181,7 +153,7 @@ int TokenCmd::promptForInitiatorID(bool required, PInitiatorID& id, std::string&
         id = initiatorIdOf(*info);
     ModifierId::MODIFIER_ID const keyword =
         info && info->isIscsiInitiator() ? ModifierId::MODIFIER_IS_INITIATOR : ModifierId::MODIFIER_FC_INITIATOR;
-    return storeChoice(*this, choice, keyword, ModifierId::MODIFIER_FC_INITIATOR, ModifierId::MODIFIER_IS_INITIATOR,
+    return storeChoice(*this, choice, keyword, {ModifierId::MODIFIER_FC_INITIATOR, ModifierId::MODIFIER_IS_INITIATOR},
                        info ? id.displayText() : std::string(), line);
 }
 
@@ -208,7 +180,7 @@ int TokenCmd::promptForDeviceID(bool required, KDeviceID& id, std::string& line,
         id = deviceIdOf(*devices[choice.index]);
     ModifierId::MODIFIER_ID const keyword =
         taken && id.isIscsiDeviceId() ? ModifierId::MODIFIER_IS_DEVICE : ModifierId::MODIFIER_FC_DEVICE;
-    return storeChoice(*this, choice, keyword, ModifierId::MODIFIER_FC_DEVICE, ModifierId::MODIFIER_IS_DEVICE,
+    return storeChoice(*this, choice, keyword, {ModifierId::MODIFIER_FC_DEVICE, ModifierId::MODIFIER_IS_DEVICE},
                        taken ? id.displayText() : std::string(), line);
 }
 
@@ -226,22 +198,17 @@ int TokenCmd::promptForClusterID(bool required, KClusterID& id, std::string& lin
         objects.add("-clusterid=" + cluster->getClusterId()->displayText(), cluster->getClusterId()->displayText());
     Choice const choice = choose(*this, objects, required, "All Clusters",
                                  "Choose Cluster: ", keywordValue(*this, ModifierId::MODIFIER_CLUSTERID), line);
-    if (choice.code != 0)
-        return choice.code;
-    clearKeyword(*this, ModifierId::MODIFIER_CLUSTERID);
-    if (choice.index != kAll) {
+    bool const taken = choice.code == 0 && choice.index != kAll;
+    if (taken)
         id = *clusters[choice.index]->getClusterId();
-        setKeyword(*this, ModifierId::MODIFIER_CLUSTERID, objects.values[choice.index], line);
-    }
-    return 0;
+    return storeChoice(*this, choice, ModifierId::MODIFIER_CLUSTERID, {ModifierId::MODIFIER_CLUSTERID},
+                       taken ? objects.values[choice.index] : std::string(), line);
 }
 
 int TokenCmd::promptForDriveID(bool required, KDriveID& id, std::string& line, std::string& err)
 {
     HIsaAdapter* adapter = nullptr;
-    if (int const rc = addressedAdapter(*this, adapter, err))
-        return rc;
-    if (int const rc = gatherDrives(*adapter, err))
+    if (int const rc = adapterWithDrives(*this, adapter, err))
         return rc;
     std::vector<HDrive*> const& drives = adapter->getDrives()->items;
     if (drives.empty()) {
@@ -253,12 +220,9 @@ int TokenCmd::promptForDriveID(bool required, KDriveID& id, std::string& line, s
         objects.add(getDisplayText_Drive(*drive->getDriveId()), drive->getDriveId()->displayText());
     Choice const choice = choose(*this, objects, required, "All Drives",
                                  "Choose Drive: ", keywordValue(*this, ModifierId::MODIFIER_DRIVE), line);
-    if (choice.code != 0)
-        return choice.code;
-    clearKeyword(*this, ModifierId::MODIFIER_DRIVE);
-    if (choice.index != kAll) {
+    bool const taken = choice.code == 0 && choice.index != kAll;
+    if (taken)
         id = *drives[choice.index]->getDriveId();
-        setKeyword(*this, ModifierId::MODIFIER_DRIVE, objects.values[choice.index], line);
-    }
-    return 0;
+    return storeChoice(*this, choice, ModifierId::MODIFIER_DRIVE, {ModifierId::MODIFIER_DRIVE},
+                       taken ? objects.values[choice.index] : std::string(), line);
 }

@@ -39,10 +39,12 @@ more are indented by one blank less.
          25:   wait            [ time ]
 
 The item menu lists the items of the action; "cache_statistics" is not
-among them, although "show cache_statistics" is a command.
+among them (nor in the action menu), although "show cache_statistics" is a
+command.
 
-  $ session '0\n2\nq\n'; sed -n '/show $/,$p' screen.txt
+  $ session '0\n2\nq\n'; grep -c cache_statistics screen.txt; sed -n '/show $/,$p' screen.txt
   exit 58
+  0
           show 
   
          [0:]  adapter
@@ -86,7 +88,7 @@ the agent menu for "report log".
 
 The agent menu, and its help (then back to the main menu).
 
-  $ session '0\n2\n0\nh\nq\n'; screen | sed -n '/show adapter $/,$p'
+  $ session '0\n2\n0\nh\nq\n'; screen | sed -n '/show adapter $/,/is running on/p'; grep -c 'Adapter Information' screen.txt
   exit 58
           show adapter 
   
@@ -103,23 +105,13 @@ The agent menu, and its help (then back to the main menu).
   If a remote agent is to be used, it must be specified first, so that the
   choices of adapters that can be reached wil be based on adapters reachable from
   the remote host rather than the host this CLI is running on.
-  
-          
-  
-         [0:]  Adapter Information
-          1:   Adapter Configuration
-          2:   Adapter Updates
-          3:   Adapter Diagnostics
-          4:   Help
-          5:   Exit (or use "q")
-  
-          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
+  2
 
 The adapter menu: each adapter the scan finds, the offline one
 (2000001B32A10F00) left out. "show adapter" has a -zek of its own that may be
 left out: "All Adapters" is offered, and is the default.
 
-  $ session '0\n2\n0\n\nh\nq\n'; screen | sed -n '/-zek=2000001B32A10C00$/,$p'
+  $ session '0\n2\n0\n\nh\nq\n'; screen | sed -n '/-zek=2000001B32A10C00$/,/from the list/p'
   exit 58
           0:   -zek=2000001B32A10C00
           1:   -zek=2000001B32A10D00
@@ -135,22 +127,11 @@ left out: "All Adapters" is offered, and is the default.
   
   Selecting "All Adapters" will apply the command to all of the adapters in
   the list, or you can select a specific adapter from the list.
-  
-          
-  
-         [0:]  Adapter Information
-          1:   Adapter Configuration
-          2:   Adapter Updates
-          3:   Adapter Diagnostics
-          4:   Help
-          5:   Exit (or use "q")
-  
-          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
 
 "show health" must name one adapter: no "All Adapters", and its help says
 so.
 
-  $ session '0\n2\n6\n\nh\nq\n'; screen | sed -n '/-zek=2000001B32A10C00$/,$p'
+  $ session '0\n2\n6\n\nh\nq\n'; screen | sed -n '/-zek=2000001B32A10C00$/,/from the list/p'
   exit 58
          [0:]  -zek=2000001B32A10C00
           1:   -zek=2000001B32A10D00
@@ -163,43 +144,18 @@ so.
   indirectly via a shared Fibre Channel connection or by use of an agent running
   on another host computer.
   You can select a specific adapter from the list.
-  
-          
-  
-         [0:]  Adapter Information
-          1:   Adapter Configuration
-          2:   Adapter Updates
-          3:   Adapter Diagnostics
-          4:   Help
-          5:   Exit (or use "q")
-  
-          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
 
 Choosing an adapter writes it on the command line shown; the command runs
 and the session starts over at the main menu.
 
-  $ session '0\n2\n6\n\n1\nq\n'; screen | sed -n '/^zekcli/,/Temperature (Front/p'; screen | tail -n 3
+  $ session '0\n2\n6\n\n1\nq\n'; screen | sed -n '/^zekcli/,/PCIe port 0/p'; screen | tail -n 4
   exit 58
   zekcli show health -zek=2000001B32A10D00
   
   [ Device 1 on local host ]
   
       PCIe port 0
-          LINK_UP
-          Vendor/Device = 0x1077 / 0x2831 (Redwing)
-          GEN 2 (5.0 Gbits/sec)
-          4x4
-      PCIe port 1
-          LINK_UP, (FC ASIC)
-          Vendor/Device = 0x1077 / 0x2533 (Bluestem)
-          GEN 2 (5.0 Gbits/sec)
-          4x4
-      PCIe port 3
-          LINK_UP, (SAS ASIC)
-          Vendor/Device = 0x1077 / 0x9445 (Bluestem)
-          GEN 2 (5.0 Gbits/sec)
-          4x4
-      Temperature (Front/Rear/CPU): 42 / 45 / 59 (Centigrade)
+          4:   Help
           5:   Exit (or use "q")
   
           Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)

@@ -69,7 +69,7 @@ menu has no "All LUNs": caching is always about one LUN).
 Enter takes read_write_through; the optional keywords follow, and Enter runs
 the command.
 
-  $ session '1\n7\n1\n\n\n1\n1\n\n\nq\n'; screen | sed -n '/Select: $/,/Selection: /p'
+  $ session '1\n7\n1\n\n\n1\n1\n\n\nq\n'; screen | sed -n '/Select: $/,/Successfully/p'
   exit 58
           [Required] Select: 
   
@@ -90,17 +90,6 @@ the command.
   [ Device 0 on local host ]
   
   Successfully enabled caching for LUN  -fc_target=5006-0160-39A0-1122 -lun_number=1
-  
-          
-  
-         [0:]  Adapter Information
-          1:   Adapter Configuration
-          2:   Adapter Updates
-          3:   Adapter Diagnostics
-          4:   Help
-          5:   Exit (or use "q")
-  
-          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
   $ hostcli -zek show lun -zek=0 -lun_wwuln=6006-0160-A1B2-C3D4-E5F6-0000-0000-0002 | grep -i 'cached'
           Reads with size  0 KB to 1024 KB will be cached
           Writes with size 0 KB to 1024 KB will be cached
@@ -109,9 +98,10 @@ the command.
 
 Flags are chosen in a menu that repeats until "Continue": each choice
 toggles, and of -loop_only, -p2p_only and -auto only the last one chosen
-stays ("set fc", Configuration 22, item 2). The required -port follows.
+stays ("set fc", Configuration 22, item 2). The first menu in full, then
+of each menu the flags chosen; the required -port follows.
 
-  $ session '1\n22\n2\n\n\n0\n2\n1\n1\n1\n\n1\n\nq\n'; screen | sed -n '/^set fc -zek=2000001B32A10C00$/,/^zekcli/p'
+  $ session '1\n22\n2\n\n\n0\n2\n1\n1\n1\n\n1\n\nq\n'; screen | sed -n '/^set fc -zek=2000001B32A10C00$/,/Select: $/p'
   exit 58
   set fc -zek=2000001B32A10C00
   
@@ -123,52 +113,18 @@ stays ("set fc", Configuration 22, item 2). The required -port follows.
          [3:]  Continue using these selections
   
           Select: 
-  
-          set fc -zek=2000001B32A10C00
-  
-          0:   -loop_only [X]  (Selected)
-          1:   -p2p_only  [ ]  (not selected)
-          2:   -auto      [ ]  (not selected)
+  $ grep -e 'Selected)' -e 'Continue using' screen.txt
          [3:]  Continue using these selections
-  
-          Select: 
-  
-          set fc -zek=2000001B32A10C00
-  
-          0:   -loop_only [ ]  (not selected)
-          1:   -p2p_only  [ ]  (not selected)
+          0:   -loop_only [X]  (Selected)
+         [3:]  Continue using these selections
           2:   -auto      [X]  (Selected)
          [3:]  Continue using these selections
-  
-          Select: 
-  
-          set fc -zek=2000001B32A10C00
-  
-          0:   -loop_only [ ]  (not selected)
           1:   -p2p_only  [X]  (Selected)
-          2:   -auto      [ ]  (not selected)
          [3:]  Continue using these selections
-  
-          Select: 
-  
-          set fc -zek=2000001B32A10C00
-  
-          0:   -loop_only [ ]  (not selected)
-          1:   -p2p_only  [ ]  (not selected)
-          2:   -auto      [ ]  (not selected)
          [3:]  Continue using these selections
-  
-          Select: 
-  
-          set fc -zek=2000001B32A10C00
-  
-          0:   -loop_only [ ]  (not selected)
           1:   -p2p_only  [X]  (Selected)
-          2:   -auto      [ ]  (not selected)
          [3:]  Continue using these selections
-  
-          Select: 
-  
+  $ screen | sed -n '/^set fc -zek=2000001B32A10C00 -p2p_only$/,/^zekcli/p'
   set fc -zek=2000001B32A10C00 -p2p_only
   
   [Required] Enter a value for -port= 

@@ -44,17 +44,7 @@ output follows the command line it ran, then the main menu again.
   [ Device 1 on local host ]
   
       PCIe port 0
-  $ terminal screen | tail -n 12
-  
-  
-  
-         [0:]  Adapter Information
-          1:   Adapter Configuration
-          2:   Adapter Updates
-          3:   Adapter Diagnostics
-          4:   Help
-          5:   Exit (or use "q")
-  
+  $ terminal screen | tail -n 2
           (m or 98: Main Menu; q or 99: Quit; h or ?  - Help)
           Please Enter Selection:
 
