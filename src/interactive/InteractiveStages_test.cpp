@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "core/TokenTreeFixture.h"
 #include "interactive/MenuCodes.h"
-#include "interactive/ScriptedConsole_test.h"
+#include "support/ScriptedConsole.h"
+#include "support/TokenTreeFixture.h"
 
 namespace {
 

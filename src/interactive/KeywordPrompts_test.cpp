@@ -5,10 +5,10 @@
 #include "commands/cache/CmdCacheEnable.h"
 #include "commands/cache/CmdCacheModify.h"
 #include "commands/log/CmdLogList.h"
-#include "core/TokenTreeFixture.h"
 #include "interactive/KeywordChoices.h"
 #include "interactive/MenuCodes.h"
-#include "interactive/ScriptedConsole_test.h"
+#include "support/ScriptedConsole.h"
+#include "support/TokenTreeFixture.h"
 
 namespace {
 

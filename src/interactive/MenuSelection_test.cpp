@@ -7,7 +7,7 @@
 
 #include "core/TokenCmd.h"
 #include "interactive/MenuCodes.h"
-#include "interactive/ScriptedConsole_test.h"
+#include "support/ScriptedConsole.h"
 
 namespace {
 
