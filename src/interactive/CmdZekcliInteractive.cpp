@@ -39,9 +39,13 @@ CmdZekcliInteractive::CmdZekcliInteractive()
         "numbered menus. The equivalent command line is shown as it grows.";
     helpSyntax = "\t[-zek=<adapter>]";
     helpModifiers = "-zek=<adapter>\n"
-                    "\tAdapter offered first in the adapter menu.";
-    helpExamples = ugCommandPrompt() + ugCommandPrompt() + "-zek=0";
-    helpNotes = "Enter q at any menu to quit, m for the main menu, h or ? for help.";
+                    "\tAccepted but not used: the adapter of each command is chosen in its own menu.";
+    helpExamples = ugCommandPrompt();
+    helpNotes = "In the session's own menus (main, action, item, agent, adapter) q or 99 quits, m or 98 goes back "
+                "to the main menu and h or ? shows help; in the menus of a command's keywords they leave the "
+                "command being built. Enter takes the entry in brackets. Exit in the main menu ends the session and "
+                "keeps the last choices for the next one; q, or the end of the input, ends it with 58 and keeps "
+                "nothing.";
 }
 
 int CmdZekcliInteractive::execCommand(std::string& err)
