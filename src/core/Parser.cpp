@@ -5,6 +5,8 @@
 //   keyword      = ("-" | "/") name [ ("=" | ":") value ]
 #include "core/Parser.h"
 
+#include <algorithm>
+
 #include "api/HbaMgmtApi.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandTable.h"
@@ -222,13 +224,29 @@ bool Parser::specialHandlingForAppendModifier(bool isSetAppend, ModifierId::MODI
     std::string const text = root.getAppendSet(value, err);
     if (!err.empty())
         return false;
+    // A set that names itself last never makes the line longer, so the
+    // bound alone would not stop it.
+    if (isExpansionOpen(text, line)) {
+        err += kAppendRecursionText;
+        return false;
+    }
+    openExpansions.push_back({text, line.size()});
     line = text + line;
-    appendExpansionLength += text.size();
-    if (line.size() > MAX_EXPANDED_LINE || appendExpansionLength > MAX_EXPANDED_LINE) {
+    if (line.size() > MAX_EXPANDED_LINE) {
         err += kAppendRecursionText;
         return false;
     }
     return parseModifierToken(line, id, value, err);
+}
+
+// The same text put in again while its earlier expansion is still open,
+// directly or through other sets, would be read the same way for ever. Once
+// the parser has read behind an expansion, that one is closed for good.
+bool Parser::isExpansionOpen(std::string const& text, std::string const& line)
+{
+    std::erase_if(openExpansions, [&](OpenExpansion const& open) { return line.size() < open.restLength; });
+    return std::any_of(openExpansions.begin(), openExpansions.end(),
+                       [&](OpenExpansion const& open) { return open.text == text; });
 }
 
 namespace {
@@ -246,7 +264,7 @@ constexpr char const* kArrowSyntaxLead = "\n-->Syntax: ";
 int Parser::parseCommandLine(std::string& err)
 {
     std::string line = commandLine;
-    appendExpansionLength = 0;
+    openExpansions.clear();
     root.initDefaultFlag();
     root.commonCommand.initDefaultFlag();
     root.resetModifierRequiredParamValues();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/CmdAction.h"
 #include "core/CmdItem.h"
@@ -15,8 +16,7 @@ class MyMsgHandler;
 
 class Parser {
 public:
-    // A line longer than this after append sets expanded can only come from a
-    // set that includes itself.
+    // A line longer than this after an append set expanded is refused.
     static constexpr size_t MAX_EXPANDED_LINE = 8192;
 
     Parser();
@@ -70,7 +70,13 @@ public:
     std::string historyPath;
 
 private:
-    // Characters that append sets have added to the line being parsed; a set
-    // that names itself last never makes the line longer, only this grows.
-    size_t appendExpansionLength = 0;
+    // An append set's text put into the line, open until the parser reads
+    // something behind it: `restLength` is how much of the line followed it.
+    struct OpenExpansion {
+        std::string text;
+        size_t restLength;
+    };
+    bool isExpansionOpen(std::string const& text, std::string const& line);
+
+    std::vector<OpenExpansion> openExpansions;
 };

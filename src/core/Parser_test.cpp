@@ -580,6 +580,51 @@ TEST(ParserAppend, SetEndingInItselfStopsToo)
     EXPECT_EQ(tree.err, kAppendTooLong + kShowLunArrow);
 }
 
+TEST(ParserAppend, ManyExpansionsOfALongSetPassWhileTheLineStaysShort)
+{
+    // 42 expansions of 197 characters add up past the bound, yet each is
+    // read before the next one comes, so the line never passes it.
+    Tree tree;
+    std::string quietTimes28;
+    for (int i = 0; i < 28; ++i)
+        quietTimes28 += (i ? " " : "") + std::string("-quiet");
+    ASSERT_EQ(quietTimes28.size(), 195u);
+    tree.parser.root.updateAppendSet("x", quietTimes28 + "  ");
+    std::string line = "show lun";
+    for (int i = 0; i < 42; ++i)
+        line += " -append=x";
+    EXPECT_EQ(tree.parse(line), ZEKCLI_OK) << tree.err;
+    EXPECT_FALSE(tree.common(ModifierId::MODIFIER_QUIET)->isDefault);
+}
+
+TEST(ParserAppend, ALineLongerThanTheBoundAfterAnExpansionIsRefused)
+{
+    Tree tree;
+    std::string big;
+    while (big.size() <= Parser::MAX_EXPANDED_LINE)
+        big += "-quiet ";
+    tree.parser.root.updateAppendSet("big", big);
+    EXPECT_EQ(tree.parse("show lun -append=big"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, kAppendTooLong + kShowLunArrow);
+}
+
+TEST(ParserAppend, ASetReachedAgainThroughAnotherWhileOpenStops)
+{
+    Tree tree;
+    tree.parser.root.updateAppendSet("a", "-quiet -append=b -echo ");
+    tree.parser.root.updateAppendSet("b", "-echo -append=a ");
+    EXPECT_EQ(tree.parse("show lun -append=a -lun_number=1"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, kAppendTooLong + kShowLunArrow);
+}
+
+TEST(ParserAppend, ASetUsedTwiceInsideAnotherIsNoRecursion)
+{
+    Tree tree;
+    tree.parser.root.updateAppendSet("q", "-quiet ");
+    tree.parser.root.updateAppendSet("both", "-echo -append=q -append=q ");
+    EXPECT_EQ(tree.parse("show lun -append=both -append=both -lun_number=1"), ZEKCLI_OK) << tree.err;
+}
+
 TEST(ParserAppend, SetIncludingItselfInFirstPlaceDoesNotRecur)
 {
     Tree tree;
