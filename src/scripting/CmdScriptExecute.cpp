@@ -1,5 +1,6 @@
 #include "scripting/CmdScriptExecute.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -170,15 +171,51 @@ int CmdScriptExecute::execCommand(std::string& err)
         return ZEKCLI_PARSE_FAIL;
     // Copied: a line of the script may give this very keyword a new value.
     std::string const scriptPath = file->value;
+    if (int const rc = refuseNesting(scriptPath, err))
+        return rc;
     FILE* script = nullptr;
     if (!safe_fopen(&script, scriptPath, "r", err))
         return ZEKCLI_PARSE_FAIL;
-    ScriptRunSwitches switches;
-    if (refuseDirectory(script, scriptPath, err) || !readSwitches(scriptPath, switches, err)) {
-        std::fclose(script);
+    runningScripts.push_back(identityOf(script));
+    int const rc = runScript(script, scriptPath, err);
+    runningScripts.pop_back();
+    std::fclose(script);
+    return rc;
+}
+
+int CmdScriptExecute::refuseNesting(std::string const& scriptPath, std::string& err) const
+{
+    // A file that cannot be looked at is left to the opening, which says why.
+    struct stat status {};
+    bool const known = stat(scriptPath.c_str(), &status) == 0;
+    if (known && isRunning({status.st_dev, status.st_ino})) {
+        err = "Script " + scriptPath + " is already running; scripts may not execute themselves.";
         return ZEKCLI_PARSE_FAIL;
     }
+    if (runningScripts.size() >= MAX_NESTING) {
+        err = "Scripts are nested too deeply (more than " + std::to_string(MAX_NESTING) + " levels).";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    return ZEKCLI_OK;
+}
+
+bool CmdScriptExecute::isRunning(FileIdentity const& identity) const
+{
+    return std::find(runningScripts.begin(), runningScripts.end(), identity) != runningScripts.end();
+}
+
+CmdScriptExecute::FileIdentity CmdScriptExecute::identityOf(FILE* script)
+{
+    struct stat status {};
+    fstat(fileno(script), &status);
+    return {status.st_dev, status.st_ino};
+}
+
+int CmdScriptExecute::runScript(FILE* script, std::string const& scriptPath, std::string& err)
+{
+    ScriptRunSwitches switches;
+    if (refuseDirectory(script, scriptPath, err) || !readSwitches(scriptPath, switches, err))
+        return ZEKCLI_PARSE_FAIL;
     int const failing = runLines(script, switches, err);
-    std::fclose(script);
     return reportRun(scriptPath, failing, err);
 }

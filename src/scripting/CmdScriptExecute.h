@@ -3,6 +3,8 @@
 
 #include <ctime>
 #include <string>
+#include <sys/types.h>
+#include <vector>
 
 #include "core/TokenCmd.h"
 
@@ -33,8 +35,28 @@ public:
     // up to its last dot, then the local date and time of `local`.
     static std::string textFileNameFor(std::string const& scriptPath, std::tm const& local);
 
+    // Scripts may run scripts, this many levels deep at most.
+    static constexpr size_t MAX_NESTING = 32;
+
 private:
+    // A script file, whatever name it was reached by.
+    struct FileIdentity {
+        dev_t device;
+        ino_t inode;
+        bool operator==(FileIdentity const&) const = default;
+    };
+
+    // 0, or 52 with the reason when the script must not be opened: it is
+    // already running in the chain of scripts, or the chain is full.
+    int refuseNesting(std::string const& scriptPath, std::string& err) const;
+    bool isRunning(FileIdentity const& identity) const;
+    static FileIdentity identityOf(FILE* script);
+    int runScript(FILE* script, std::string const& scriptPath, std::string& err);
     bool readSwitches(std::string const& scriptPath, ScriptRunSwitches& switches, std::string& err) const;
     int runLines(FILE* script, ScriptRunSwitches const& switches, std::string& err);
     int reportRun(std::string const& scriptPath, int failing, std::string& err) const;
+
+    // The scripts now running, outermost first: a script line that runs a
+    // script runs this same command again.
+    std::vector<FileIdentity> runningScripts;
 };
