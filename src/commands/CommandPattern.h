@@ -6,11 +6,13 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "api/HIsaAdapter.h"
 #include "api/MhbaReturn.h"
 #include "core/ModifierId.h"
 #include "records/KIsaAdapterPath.h"
+#include "records/RecordImage.h"
 
 class KIsaAdapterInfo;
 class PIpAddress;
@@ -95,10 +97,11 @@ int showAdapterRecord(TokenCmd const& cmd, HIsaAdapter& adapter, e_MHBA_RETURN (
     Record record;
     if (int const rc = (adapter.*read)(record))
         return rc;
+    std::vector<unsigned char> const image = recordImage(record);
     CommandReport report;
     report.text = record.displayText();
-    report.data = &record;
-    report.size = sizeof record;
+    report.data = image.data();
+    report.size = image.size();
     return finishCommand(cmd, &adapter, report, err);
 }
 

@@ -16,11 +16,9 @@ CountedRecordBuffer::CountedRecordBuffer()
     appendInt32(0);
 }
 
-void CountedRecordBuffer::appendImage(void const* image, unsigned int imageSize)
+void CountedRecordBuffer::beginImage(unsigned int imageSize)
 {
     appendInt32(imageSize + 4);
-    unsigned char const* const first = static_cast<unsigned char const*>(image);
-    bytes.insert(bytes.end(), first, first + imageSize);
     storeInt32(kCountOffset, ++count);
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "commands/CommandOutput.h"
+#include "records/RecordImage.h"
 
 class CountedRecordBuffer {
 public:
@@ -18,15 +19,18 @@ public:
     template <typename Record>
     void appendAll(std::vector<Record> const& records)
     {
-        for (Record const& record : records)
-            appendImage(&record, sizeof(Record));
+        for (Record const& record : records) {
+            beginImage(sizeof(Record));
+            appendRecordImage(bytes, record);
+        }
     }
 
     void const* data() const { return bytes.data(); }
     unsigned long size() const { return bytes.size(); }
 
 private:
-    void appendImage(void const* image, unsigned int imageSize);
+    // The size word of the next image, which is then appended; the count grows.
+    void beginImage(unsigned int imageSize);
     void appendInt32(uint32_t value);
     void storeInt32(size_t at, uint32_t value);
 

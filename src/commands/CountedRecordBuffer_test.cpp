@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "records/PUniqueID.h"
+#include "records/RecordImage.h"
 
 namespace {
 
@@ -45,6 +46,6 @@ TEST(CountedRecordBuffer, EachImageFollowsItsSizeThatCountsItself)
     EXPECT_EQ(580u, wordAt(buffer, 8));
     EXPECT_EQ(580u, wordAt(buffer, 8 + 580));
     unsigned char const* const bytes = static_cast<unsigned char const*>(buffer.data());
-    EXPECT_EQ(0, std::memcmp(bytes + 12, &luns[0], sizeof(PLunID)));
-    EXPECT_EQ(0, std::memcmp(bytes + 12 + 580, &luns[1], sizeof(PLunID)));
+    EXPECT_EQ(0, std::memcmp(bytes + 12, recordImage(luns[0]).data(), sizeof(PLunID)));
+    EXPECT_EQ(0, std::memcmp(bytes + 12 + 580, recordImage(luns[1]).data(), sizeof(PLunID)));
 }

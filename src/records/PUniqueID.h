@@ -12,6 +12,8 @@
 
 #include "records/PBase.h"
 
+class CodeAddressEraser;
+
 class PUniqueID {
 public:
     static constexpr int DATA_SIZE = 269;
@@ -190,6 +192,9 @@ public:
     const PTargetID& targetID() const { return lun.targetID(); }
 
 private:
+    // Result images clear the code addresses of the identifiers it holds.
+    friend void eraseCodeAddresses(CodeAddressEraser& eraser, PLunMaskID const& record);
+
     void rebuildTargetFromData();
 
     PTargetID target;

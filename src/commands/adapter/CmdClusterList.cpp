@@ -6,6 +6,7 @@
 #include "commands/KeywordHelp.h"
 #include "commands/adapter/ClusterScope.h"
 #include "records/KClusterInfo.h"
+#include "records/RecordImage.h"
 
 namespace {
 
@@ -54,6 +55,7 @@ int CmdClusterList::execCommand(std::string& err)
             text += getSummaryText_Cluster(*cluster->getClusterId());
     }
     KClusterInfo const* const info = last->getClusterInfo();
-    CommandReport const report = CommandReport::withoutBanner(text, MHBA_S_OK, info, info ? sizeof(KClusterInfo) : 0);
+    std::vector<unsigned char> const image = info ? recordImage(*info) : std::vector<unsigned char>();
+    CommandReport const report = CommandReport::withoutBanner(text, MHBA_S_OK, image.data(), image.size());
     return finishCommand(*this, nullptr, report, err);
 }

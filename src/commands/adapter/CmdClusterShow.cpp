@@ -7,6 +7,7 @@
 #include "commands/adapter/ClusterScope.h"
 #include "records/KIsaAdapterInfo.h"
 #include "records/KIsaAdapterPath.h"
+#include "records/RecordImage.h"
 
 namespace {
 
@@ -149,7 +150,8 @@ int CmdClusterShow::execCommand(std::string& err)
         for (KClusterID const& id : scope.ids)
             report.text += getSummaryText_Cluster(id);
     }
-    CommandReport const result = CommandReport::withoutBanner(report.text, MHBA_S_OK, report.lastShown,
-                                                              report.lastShown ? sizeof(KIsaAdapterInfo) : 0);
+    std::vector<unsigned char> const image =
+        report.lastShown ? recordImage(*report.lastShown) : std::vector<unsigned char>();
+    CommandReport const result = CommandReport::withoutBanner(report.text, MHBA_S_OK, image.data(), image.size());
     return finishCommand(*this, nullptr, result, err);
 }

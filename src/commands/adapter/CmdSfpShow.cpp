@@ -9,6 +9,7 @@
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterInfo.h"
 #include "records/KSfpInfo.h"
+#include "records/RecordImage.h"
 
 namespace {
 
@@ -64,7 +65,8 @@ int CmdSfpShow::execCommand(std::string& err)
             if (int const rc = appendSfpText(*target.adapter, index, sfp, report.text))
                 return rc;
     }
-    report.data = &sfp;
-    report.size = sizeof sfp;
+    std::vector<unsigned char> const image = recordImage(sfp);
+    report.data = image.data();
+    report.size = image.size();
     return finishCommand(*this, target.adapter, report, err);
 }
