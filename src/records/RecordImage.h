@@ -96,18 +96,19 @@ std::vector<unsigned char> constructedOver(unsigned char fill)
     return memory;
 }
 
-// The bytes of a record of this type that its construction never writes:
-// 1 for padding, 0 for the bytes of fields and code addresses.
+// The offsets of the bytes of a record of this type that its construction
+// never writes: its padding.
 template <typename Record>
-std::vector<unsigned char> const& paddingOf()
+std::vector<std::size_t> const& paddingOf()
 {
-    static std::vector<unsigned char> const padding = [] {
+    static std::vector<std::size_t> const padding = [] {
         std::vector<unsigned char> const overZeros = constructedOver<Record>(0x00);
         std::vector<unsigned char> const overOnes = constructedOver<Record>(0xFF);
-        std::vector<unsigned char> mask(sizeof(Record));
-        for (std::size_t at = 0; at < mask.size(); ++at)
-            mask[at] = overZeros[at] != overOnes[at];
-        return mask;
+        std::vector<std::size_t> offsets;
+        for (std::size_t at = 0; at < sizeof(Record); ++at)
+            if (overZeros[at] != overOnes[at])
+                offsets.push_back(at);
+        return offsets;
     }();
     return padding;
 }
@@ -119,10 +120,8 @@ void appendRecordImage(std::vector<unsigned char>& bytes, Record const& record)
     std::size_t const start = bytes.size();
     bytes.resize(start + sizeof(Record));
     std::memcpy(bytes.data() + start, static_cast<void const*>(&record), sizeof(Record));
-    std::vector<unsigned char> const& padding = paddingOf<Record>();
-    for (std::size_t at = 0; at < sizeof(Record); ++at)
-        if (padding[at])
-            bytes[start + at] = 0;
+    for (std::size_t const at : paddingOf<Record>())
+        bytes[start + at] = 0;
     CodeAddressEraser eraser(&record, bytes.data() + start);
     eraseCodeAddresses(eraser, record);
 }
