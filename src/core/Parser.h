@@ -24,7 +24,7 @@ public:
     Parser(Parser const&) = delete;
     Parser& operator=(Parser const&) = delete;
 
-    // Command text and parsing.
+    // Command text and parsing (core/Parser.cpp).
     void getCommandLine(int argc, char** argv);
     bool parseToken(std::string& line, std::string& token, char& prefix);
     bool parseCmdToken(std::string& line, CmdAction::CMD_ACTION& action, CmdItem::CMD_ITEM& item, std::string& err);
@@ -37,9 +37,10 @@ public:
     static std::string addQuotesIfNeeded(std::string const& text);
     void initParsingTree();
 
-    // Running one line, for the entry point and for scripts alike: parse
-    // `commandLine`, then show help, or run the command if its required
-    // keywords are set. Each caller frames the outcome its own way.
+    // Running one line, for the entry point and for scripts alike
+    // (core/Parser.cpp): parse `commandLine`, then show help, or run the
+    // command if its required keywords are set. Each caller frames the
+    // outcome its own way.
     enum class LineStep { ParseFailed, HelpShown, NotReady, Executed };
     struct LineOutcome {
         LineStep step;
@@ -47,20 +48,21 @@ public:
     };
     LineOutcome runCommandLine(std::string& err, unsigned int iteration);
 
-    // Execution frame.
+    // Execution frame: common keywords, checks, the command, its failure
+    // text (core/ExecutionFrame.cpp).
     int execCommand(std::string& err, unsigned int iteration);
     static std::string zekcliReturnToText(int code);
     bool displayIpAddress(HIsaAdapter* adapter, std::string& err) const;
     void myProgressMsg(int percent) const;
 
-    // Preferences and history.
+    // Preferences (core/Preferences.cpp) and history (core/History.cpp).
     void init();
     void save();
     static std::string getHomeDirectory();
     bool isCommandHistoryFileExists();
     void updateCommandHistory(int rc, std::string const& out);
 
-    // Help.
+    // Help (core/Help.cpp).
     bool displayDetailedHelp(std::string& err) const;
 
     MyMsgHandler* msgHandler = nullptr;

@@ -41,21 +41,24 @@ public:
 
     TokenCmd();
 
-    // Declaration.
+    // Declaration (core/TokenCmd.cpp).
     void init(TokenInitializer const& row) override;
     void initModifiers(TokenInitializer::TOKEN_INITIALIZER const* rows);
 
-    // The command's work; 0 or a return code, failure text in `err`.
+    // The command's work; 0 or a return code, failure text in `err`. Each
+    // command class overrides it in its own file.
     virtual int execCommand(std::string& err);
     virtual std::string cmdHelpText() const;
 
-    // Keyword lookup: the command's own declaration wins over the common one.
+    // Keyword lookup: the command's own declaration wins over the common one
+    // (core/TokenCmd.cpp).
     TokenModifierString* findModifier(ModifierId::MODIFIER_ID const& id, std::string& err) const;
     TokenModifierString* findCommonModifier(ModifierId::MODIFIER_ID const& id, std::string& err) const;
     bool verifyRequiredModifiersAreSet() const;
     void resetModifierRequiredParamValues();
 
-    // Output channels.
+    // Output channels (core/ExecutionFrame.cpp). Commands that write more
+    // than one piece go through commands/CommandOutput.h.
     using Token::outResult;
     bool outDisplay(std::string const& text, std::string& err) const override;
     void outError(std::string const& text) const override;
@@ -63,13 +66,15 @@ public:
     bool outScript(FILE* stream, std::string const& text, std::string& err) const;
     bool displayIpAddress(HIsaAdapter* adapter, std::string& err) const;
 
-    // The -agent address, and a test that the agent answers when one is given.
+    // The -agent address, and a test that the agent answers when one is given
+    // (core/AgentKeyword.cpp).
     bool getIpAddressFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, PIpAddress& address, bool& found,
                                                     std::string& err);
     e_MHBA_RETURN testAgentConnectionIfAny(PIpAddress& agent, std::string& err);
 
     // Keyword values: numbers, sizes, times, switches and identifiers. A
-    // false result means the command stops, with the reason in `err`.
+    // false result means the command stops, with the reason in `err`
+    // (addressing/KeywordValues.cpp).
     bool getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, int min, int max, int& value, bool& found,
                                                  std::string& err);
     bool getI64NumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_ID id, long long min, long long max,
@@ -89,12 +94,13 @@ public:
     bool getAsciiSSDLunIDFromCommandLine(KWwulnLunID& id, bool& found, std::string& err);
     bool getAsciiWwulnFromCommandLine(KWwulnLunID& id, bool& found, std::string& err);
 
-    // Adapter selection from -zek (or another keyword naming an adapter).
+    // Adapter selection from -zek (or another keyword naming an adapter)
+    // (addressing/AdapterSelection.cpp).
     e_MHBA_RETURN selectAdapter(KIsaAdapterPath& path, std::string& err);
     e_MHBA_RETURN selectAdapterFromKeyword(ModifierId::MODIFIER_ID id, KIsaAdapterPath& path, std::string& err);
 
     // How adapters, clusters, devices, initiators, targets, drives, names
-    // and LUNs are labelled in output.
+    // and LUNs are labelled in output (addressing/DisplayLabels.cpp).
     std::string getSummaryText_Adapter(KIsaAdapterPath const& path) const;
     std::string getSummaryText_Cluster(KClusterID const& id) const;
     std::string getDisplayText_Device(KDeviceID const& id) const;
@@ -106,7 +112,8 @@ public:
     std::string getDisplayText_Lun(PLunID const& lun, bool bDestination) const;
     std::string getDisplayText_AdapterGroupLun(KAdapterGroupExtendedLunInfo const& info) const;
 
-    // LUN resolution: the LUN keywords (or their -dmdest_ set) into paths.
+    // LUN resolution: the LUN keywords (or their -dmdest_ set) into paths
+    // (addressing/LunResolution.cpp).
     bool getLunIdFromCommandLine(HIsaAdapter* adapter, bool bDestination, bool bOneLunRequired,
                                  std::vector<PLunID>& luns, std::string& err);
     bool getLunIdListForLunNameFromCommandLine(HIsaAdapter* adapter, bool bDestination, bool& bNameGiven,
@@ -120,9 +127,10 @@ public:
     void testDeviceRelatedModifiers(bool& bAny, bool& bRequired) const;
     void setDefaultLunModifiers();
 
-    // Menu mode (src/interactive): numbered menus and the prompts that fill
-    // this command's keywords from them. Prompts answer 0 to go on, 56 for
-    // help, 57 for the main menu, 58 to quit, or an API code.
+    // Menu mode: numbered menus and the prompts that fill this command's
+    // keywords from them (interactive/MenuSelection.cpp, KeywordPrompts.cpp,
+    // ObjectPrompts.cpp, LunPrompt.cpp, InteractiveStages.cpp). Prompts answer
+    // 0 to go on, 56 for help, 57 for the main menu, 58 to quit, or an API code.
     int getMenuSelection(std::vector<std::string> const& entries, int defaultIndex, std::string const& prompt,
                          std::string const& line);
     int promptForString(TokenModifierString* token, std::string& line, std::string& err);
@@ -140,7 +148,7 @@ public:
     int interactivePromptForRequiredModifiers(std::string& line, std::string& err);
     int interactivePromptForOptionalModifiersAndExecute(std::string& line, std::string& err);
 
-    // Help texts.
+    // Help texts (core/Help.cpp).
     std::string ugOsPrompt() const;
     std::string ugCommand() const;
     std::string ugCommandLowCase() const;
@@ -151,11 +159,11 @@ public:
     bool writeHelp(std::string const& baseName, int a, int b, std::string const& text);
     int getConsoleWidth();
 
-    // Preferences file.
+    // Preferences file (core/Preferences.cpp).
     bool saveToPrefFile(FILE* file);
     bool initFromPrefFile(FILE* file);
 
-    // Small helpers shared by commands.
+    // Small helpers shared by commands (core/TokenCmd.cpp).
     static bool isAllHexDigits(std::string const& text);
     static bool createDirectoryIfItDoesNotExist(std::string& path, std::string& err);
     static bool readLineFromFilePointer(FILE* file, std::string& out);
