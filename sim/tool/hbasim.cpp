@@ -2,6 +2,7 @@
 // libhbaclient.so serves to the command line.
 #include "Summary.h"
 
+#include "model/AdapterLog.h"
 #include "model/DefaultSan.h"
 #include "model/Generate.h"
 #include "model/Rules.h"
@@ -45,8 +46,13 @@ const char* const kUsage =
     "  offline adapter ADAPTER | port ADAPTER PORT | lun WWULN | agent ADDRESS\n"
     "  online adapter ADAPTER | port ADAPTER PORT | lun WWULN | agent ADDRESS\n"
     "                            take an object offline or bring it back\n"
-    "  generate ADAPTERS LUN_PATHS [--targets N] [--output FILE]\n"
-    "                            make a large synthetic SAN, into the state unless --output is given\n"
+    "  generate ADAPTERS LUN_PATHS [--targets N] [--output FILE] [--log N]\n"
+    "                            make a large synthetic SAN, into the state unless --output is given;\n"
+    "                            --log gives every adapter a log of N records (default 20)\n"
+    "  log ADAPTER append SEVERITY SOURCE MESSAGE [--count N]\n"
+    "                            add a record (N records) to the adapter's event log, which keeps\n"
+    "                            the newest 2000; SEVERITY is a word (fatal, error, warning, trace,\n"
+    "                            info, debug, system, unknown) or a number\n"
     "  help                      show this text\n"
     "\n"
     "ADAPTER is an adapter identifier in hexadecimal or a symbolic name; OPERATION is the\n"
@@ -78,6 +84,7 @@ const std::set<std::string> kOperations = {
     "getDrivesWithErrorDetails",
     "getFcInfo",
     "getFile",
+    "getLogViewFromFile",
     "getLunIoStatistics",
     "getLunsForSpecificTarget",
     "getMemoryInfo",
@@ -108,6 +115,7 @@ const std::set<std::string> kOperations = {
     "saveCacheDump",
     "saveCaptureFile",
     "saveFruFile",
+    "saveLogFile",
     "scanAll",
     "scanTarget",
     "setBeacon",
@@ -367,8 +375,29 @@ int setOnline(StateStore& store, const std::vector<std::string>& args, bool onli
     });
 }
 
+// Takes "--log N" out of the arguments of generate: -1 when absent.
+bool takeLogOption(std::vector<std::string>& args, long long& records, std::string& problem)
+{
+    records = -1;
+    for (size_t i = 0; i < args.size(); ++i) {
+        if (args[i] != "--log")
+            continue;
+        if (i + 1 >= args.size() || !wholeNumber(args[i + 1], 0, 10000000, records)) {
+            problem = "--log takes a number of records from 0 to 10000000";
+            return false;
+        }
+        args.erase(args.begin() + static_cast<std::ptrdiff_t>(i), args.begin() + static_cast<std::ptrdiff_t>(i) + 2);
+        return true;
+    }
+    return true;
+}
+
 int generate(StateStore& store, std::vector<std::string> args)
 {
+    long long logRecords;
+    std::string problem;
+    if (!takeLogOption(args, logRecords, problem))
+        return badArguments(problem);
     std::string output;
     long long targets = 16;
     std::vector<std::string> plain;
@@ -388,6 +417,8 @@ int generate(StateStore& store, std::vector<std::string> args)
     if (plain.size() != 2 || !wholeNumber(plain[0], 1, 64, adapters) || !wholeNumber(plain[1], 1, 1000000, paths))
         return badArguments("generate takes ADAPTERS (1 to 64) and LUN_PATHS (1 to 1000000)");
     San san = generateSan(static_cast<int>(adapters), static_cast<int>(paths), static_cast<int>(targets));
+    if (logRecords >= 0)
+        replaceLogs(san, simNow(), static_cast<int>(logRecords));
     std::string error;
     bool ok = output.empty() ? store.replace(san, error) : writeTextFileAtomically(output, scenarioToText(san), error);
     if (!ok)
@@ -395,6 +426,33 @@ int generate(StateStore& store, std::vector<std::string> args)
     std::printf("Generated %lld adapters, %zu targets, %zu LUNs with %lld paths into %s\n", adapters,
                 san.targets.size(), san.luns.size(), paths, output.empty() ? store.path().c_str() : output.c_str());
     return kDone;
+}
+
+// log ADAPTER append SEVERITY SOURCE MESSAGE [--count N]
+int appendToLog(StateStore& store, std::vector<std::string> args)
+{
+    long long count = 1;
+    if (args.size() == 7 && args[5] == "--count") {
+        if (!wholeNumber(args[6], 1, 1000000, count))
+            return badArguments("--count takes a number from 1 to 1000000");
+        args.resize(5);
+    }
+    if (args.size() != 5 || args[1] != "append")
+        return badArguments("log takes ADAPTER append SEVERITY SOURCE MESSAGE [--count N]");
+    int severity = 0;
+    if (!severityFromText(args[2], severity))
+        return badArguments("\"" + args[2] +
+                            "\" is not a severity: unknown, fatal, error, warning, trace, info, debug, system or a "
+                            "number");
+    return changeState(store, [&](San& san, std::string& problem) {
+        Adapter* a = adapterNamed(san, args[0]);
+        if (!a) {
+            problem = "no adapter \"" + args[0] + "\" in the SAN";
+            return false;
+        }
+        appendLogRecords(*a, simNow(), severity, args[3], args[4], count);
+        return true;
+    });
 }
 
 int run(StateStore& store, const std::string& command, const std::vector<std::string>& args)
@@ -421,6 +479,8 @@ int run(StateStore& store, const std::string& command, const std::vector<std::st
         return setOnline(store, args, true);
     if (command == "generate")
         return generate(store, args);
+    if (command == "log")
+        return appendToLog(store, args);
     return badArguments("unknown command \"" + command + "\"");
 }
 

@@ -1,6 +1,7 @@
 #include "records/KLogEntry.h"
 
 #include <cstring>
+#include <string_view>
 
 ZEK_ASSERT_FIELD_OFFSET(KLogEntry, entryNumber, 20);
 ZEK_ASSERT_FIELD_OFFSET(KLogEntry, message, 60);
@@ -187,6 +188,12 @@ std::string KLogEntry::displayDelimitedText(const std::string& delimiter) const
     if (text.back() != '\n')
         text += "\n";
     return text;
+}
+
+bool KLogEntry::messageContains(const std::string& text) const
+{
+    std::string_view const field(message, strnlen(message, sizeof message));
+    return field.find(text) != std::string_view::npos;
 }
 
 std::string KLogEntry::displayText() const

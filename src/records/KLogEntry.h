@@ -71,6 +71,15 @@ public:
 
     bool isValid() const { return untouchedWord != 0; }
 
+    // Whether the message holds `text`, case-sensitively. The message need
+    // not be terminated: the search stops at the end of its field.
+    bool messageContains(const std::string& text) const;
+
+    // The file form in memory: SAVED_SIZE bytes, as save and restore write
+    // and read them, for a reader that takes many records at once.
+    void saveTo(unsigned char* record) const;
+    void restoreFrom(const unsigned char* record);
+
     int32_t entryNumber;
     char source[SOURCE_SIZE];
     RAW_LOG_ENTRY_SEVERITY_TYPE severity;
@@ -79,8 +88,6 @@ public:
 
 private:
     bool serializeWord(bool write, FILE* file, std::string& error);
-    void saveTo(unsigned char* record) const;
-    void restoreFrom(const unsigned char* record);
 };
 
 static_assert(sizeof(KLogEntry) == 352, "KLogEntry image");

@@ -86,6 +86,37 @@ TEST(KLogEntry, UnterminatedTextsStopAtTheirField)
               "DEBUG|11/14/2023 22:13:20|" + std::string(32, 'S') + "|" + std::string(256, 'M') + "\n");
 }
 
+TEST(KLogEntry, MessageSearchIsCaseSensitiveAndStopsAtTheField)
+{
+    KLogEntry e = entry("fc", KLogEntry::RAW_SEVERITY_WARNING, "Port FC1 link down");
+    EXPECT_TRUE(e.messageContains("link down"));
+    EXPECT_TRUE(e.messageContains("Port"));
+    EXPECT_FALSE(e.messageContains("Link down"));
+    EXPECT_FALSE(e.messageContains("fc")); // the source is not searched
+
+    memset(e.message, 'M', sizeof e.message);
+    memcpy(e.message + sizeof e.message - 3, "end", 3);
+    EXPECT_TRUE(e.messageContains("Mend"));
+    EXPECT_FALSE(e.messageContains("endfc"));
+}
+
+TEST(KLogEntry, BytesInMemoryAreTheSavedRecord)
+{
+    KLogEntry e = entry("cachemgr", KLogEntry::RAW_SEVERITY_ERROR, "Flush retried");
+    unsigned char bytes[KLogEntry::SAVED_SIZE];
+    e.saveTo(bytes);
+    TempFile saved;
+    ASSERT_EQ(e.save(saved.file), KLogEntry::SAVED_SIZE);
+    unsigned char written[KLogEntry::SAVED_SIZE];
+    rewind(saved.file);
+    ASSERT_EQ(fread(written, 1, sizeof written, saved.file), sizeof written);
+    EXPECT_EQ(memcmp(bytes, written, sizeof bytes), 0);
+
+    KLogEntry back;
+    back.restoreFrom(bytes);
+    EXPECT_TRUE(back == e);
+}
+
 TEST(KLogEntry, EqualityIgnoresTheNumber)
 {
     KLogEntry a = entry("cache", KLogEntry::RAW_SEVERITY_ERROR, "Flush failed");

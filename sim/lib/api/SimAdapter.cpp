@@ -914,21 +914,43 @@ e_MHBA_RETURN SimAdapter::clearLog()
     return asReturn(apply("clearLog", [&](San& s, long long now) { return rules::clearLog(s, id_, now); }));
 }
 
+// Only the newest file view of an adapter keeps its file open; the one
+// before it is emptied, so that a long script of log commands does not run
+// out of file descriptors. The objects themselves stay valid.
 HLogView* SimAdapter::getLogViewFromFile(const std::string& file)
 {
-    std::unique_ptr<SimLogView> view = SimLogView::fromFile(file);
-    if (!view)
+    std::unique_ptr<SimLogView> view;
+    int const rc = withAdapter("getLogViewFromFile", [&](const San&, const Adapter&) {
+        std::string error;
+        view = SimLogView::fromFile(file, error);
+        if (!view)
+            backend_.warning(error);
+        return view ? code::Ok : code::FileError;
+    });
+    if (!view || code::isFailure(rc))
         return nullptr;
-    std::shared_ptr<SimLogView> kept(std::move(view));
-    retire(kept);
-    return kept.get();
+    if (fileView_) {
+        fileView_->close();
+        retire(std::shared_ptr<SimLogView>(std::move(fileView_)));
+    }
+    fileView_ = std::move(view);
+    return fileView_.get();
 }
 
+// A file that cannot be written makes no message: the answer is false.
 bool SimAdapter::saveLogFile(const std::string& file)
 {
-    if (!logView_ && loadLog(0) != MHBA_S_OK)
-        return false;
-    return SimLogView::save(logView_->entries(), file);
+    int const rc = withAdapter("saveLogFile", [&](const San&, const Adapter& a) {
+        std::unique_ptr<SimLogView> fresh;
+        SimLogView* view = logView_.get();
+        if (!view) {
+            fresh = SimLogView::fromRecords(a.log);
+            view = fresh.get();
+        }
+        std::string error;
+        return view->save(file, error) ? code::Ok : code::FileError;
+    });
+    return !code::isFailure(rc);
 }
 
 e_MHBA_RETURN SimAdapter::loadLog(int)
@@ -936,7 +958,7 @@ e_MHBA_RETURN SimAdapter::loadLog(int)
     return asReturn(withAdapter("loadLog", [&](const San&, const Adapter& a) {
         if (logView_)
             retire(std::shared_ptr<SimLogView>(std::move(logView_)));
-        logView_ = std::make_unique<SimLogView>(SimLogView::fromRecords(a.log));
+        logView_ = SimLogView::fromRecords(a.log);
         return code::Ok;
     }));
 }

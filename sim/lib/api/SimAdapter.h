@@ -182,6 +182,7 @@ private:
     SimLunNameIndex nameIndex_;
     WwulnIndex wwulnIndex_;
     std::unique_ptr<SimLogView> logView_;
+    std::unique_ptr<SimLogView> fileView_;
     bool discovered_ = false;
 };
 

@@ -429,6 +429,20 @@ TEST_F(SimApiTest, LogViewWalksAndSurvivesAFile)
     ASSERT_NE(fromFile, nullptr);
     EXPECT_EQ(fromFile->getCount(), 36u);
     EXPECT_EQ(dev0->getLogViewFromFile(dir + "/missing.log"), nullptr);
+    EXPECT_EQ(fromFile->getCount(), 36u) << "a file that cannot be read leaves the view before it alone";
+}
+
+TEST_F(SimApiTest, OnlyTheNewestFileViewKeepsItsFileOpen)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    std::string file = dir + "/saved.log";
+    ASSERT_TRUE(dev0->saveLogFile(file));
+    HLogView* first = dev0->getLogViewFromFile(file);
+    ASSERT_NE(first, nullptr);
+    HLogView* second = dev0->getLogViewFromFile(file);
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(first->getCount(), 0u) << "still a valid object, emptied";
+    EXPECT_EQ(second->getCount(), 36u);
 }
 
 TEST_F(SimApiTest, DemonstrationRunsAreNeverWrittenBack)

@@ -7,22 +7,41 @@
 #include "records/KLogEntry.h"
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace sim {
 
+// Where the records of a view come from. Index 0 is the oldest record; a
+// record read is numbered by its index, which is how the view finds it
+// again when a caller hands it back.
+class LogRecordSource {
+public:
+    virtual ~LogRecordSource() = default;
+    virtual unsigned count() const = 0;
+    virtual bool read(unsigned index, KLogEntry& out) = 0;
+    // Lets go of what the records are read from; no record is left after.
+    virtual void close() {}
+};
+
 class SimLogView : public HLogView {
 public:
-    explicit SimLogView(std::vector<KLogEntry> entries) : entries_(std::move(entries)) {}
+    explicit SimLogView(std::unique_ptr<LogRecordSource> source) : source_(std::move(source)) {}
 
-    static std::vector<KLogEntry> fromRecords(const std::vector<LogRecord>& records);
-    // Null when the file is not a saved log.
-    static std::unique_ptr<SimLogView> fromFile(const std::string& file);
-    static bool save(const std::vector<KLogEntry>& entries, const std::string& file);
+    // The adapter's log as it stands now, copied.
+    static std::unique_ptr<SimLogView> fromRecords(const std::vector<LogRecord>& records);
+    // A saved log, read as the walk reaches it rather than all at once.
+    // Null, with the reason in `error`, when the file is not a saved log.
+    static std::unique_ptr<SimLogView> fromFile(const std::string& file, std::string& error);
 
-    unsigned getCount() override { return static_cast<unsigned>(entries_.size()); }
+    // Every record in the saved form, replacing the file whole or not at all.
+    bool save(const std::string& file, std::string& error);
+    // A file view stops reading its file: after this it holds no records.
+    void close();
+
+    unsigned getCount() override { return source_->count(); }
     bool getFirstEntry(KLogEntry& out) override { return getEntryAt(0, out); }
-    bool getLastEntry(KLogEntry& out) override { return getEntryAt(static_cast<int>(entries_.size()) - 1, out); }
+    bool getLastEntry(KLogEntry& out) override { return getEntryAt(static_cast<int>(getCount()) - 1, out); }
     bool getNextEntry(const KLogEntry& from, KLogEntry& out) override;
     bool getPreviousEntry(const KLogEntry& from, KLogEntry& out) override;
     bool getEntryAt(int index, KLogEntry& out) override;
@@ -32,15 +51,13 @@ public:
     bool writeReport(const std::string& file) override;
     bool writeCsvFile(const std::string& file, const std::string& delimiter) override;
 
-    const std::vector<KLogEntry>& entries() const { return entries_; }
-
 private:
-    int indexOf(const KLogEntry& entry) const;
+    int indexOf(const KLogEntry& entry);
     template <class Match>
     bool searchOlder(const KLogEntry& from, KLogEntry& out, Match&& match);
-    bool writeLines(const std::string& file, const std::string& delimiter, bool csv);
+    bool writeLines(const std::string& file, const std::string& heading, const std::string* delimiter);
 
-    std::vector<KLogEntry> entries_;
+    std::unique_ptr<LogRecordSource> source_;
 };
 
 } // namespace sim

@@ -1,5 +1,6 @@
 #include "model/Rules.h"
 
+#include "model/AdapterLog.h"
 #include "model/Base64.h"
 #include "model/Codes.h"
 #include "model/Scenario.h"
@@ -912,9 +913,7 @@ int clearLog(San& san, u64 adapter, long long now)
 
 void appendLog(Adapter& a, long long now, int severity, const std::string& source, const std::string& message)
 {
-    a.log.push_back({now, severity, source, message});
-    if (a.log.size() > 2000)
-        a.log.erase(a.log.begin()); // the adapter keeps a bounded log
+    appendLogRecords(a, now, severity, source, message);
 }
 
 bool hasFault(const San& san, u64 adapter, const std::string& operation)

@@ -1,9 +1,16 @@
 // Base of the log commands: the word tables of -basepos and -severity, which
-// several of them resolve.
+// several of them resolve, and the steps they share.
 #pragma once
+
+#include <iterator>
+#include <string>
 
 #include "core/EnumStrList.h"
 #include "core/TokenCmd.h"
+
+class HIsaAdapter;
+class HLogView;
+class KLogEntry;
 
 class CmdLogBase : public TokenCmd {
 public:
@@ -18,4 +25,35 @@ public:
     EnumStrList<BASEPOS_TYPE> basePositionWords;
     // Values are log entry severities; a lower number is worse.
     EnumStrList<int> severityWords;
+
+protected:
+    // What a command says when it cannot have the log it asked for.
+    struct LogViewFailure {
+        std::string fromFile;    // the saved log that -file names
+        std::string fromAdapter; // the log just fetched from the adapter
+    };
+
+    // The saved log that -file names when it is on the line, else the log of
+    // the adapter, fetched anew. Returns 0, the fetch's code, or 1206 with
+    // the failure text in `err`.
+    int openLogView(HIsaAdapter& adapter, TokenModifierString const& file, LogViewFailure const& failure,
+                    HLogView*& view, std::string& err) const;
+
+    // The severity named by the value of -severity, abbreviations included.
+    // False with the word matcher's text in `err`.
+    bool resolveSeverity(TokenModifierString const& keyword, int& severity, std::string& err) const;
+
+    // The newest record, when the log has any.
+    static bool newestEntry(HLogView& view, KLogEntry& newest);
+
+    // Finds each of `ids` among the command's keywords, in order; false with
+    // the lookup's text at the first that is missing.
+    template <size_t N>
+    bool findKeywords(ModifierId::MODIFIER_ID const (&ids)[N], TokenModifierString* (&found)[N], std::string& err) const
+    {
+        for (size_t i = 0; i < N; ++i)
+            if (!(found[i] = findModifier(ids[i], err)))
+                return false;
+        return true;
+    }
 };

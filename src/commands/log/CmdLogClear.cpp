@@ -1,8 +1,9 @@
 #include "commands/log/CmdLogClear.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
 
 namespace {
 
@@ -25,5 +26,12 @@ CmdLogClear::CmdLogClear()
 
 int CmdLogClear::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    if (int const rc = addressed.adapter->clearLog())
+        return rc;
+    CommandReport report;
+    report.text = "Log on the Fibre Channel Adapter successfully cleared";
+    return finishCommand(*this, addressed.adapter, report, err);
 }

@@ -1,8 +1,15 @@
 #include "commands/log/CmdLogList.h"
 
+#include "api/HLogView.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandOutput.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/log/LogFilter.h"
+#include "core/ZekcliReturn.h"
+#include "records/KLogEntry.h"
+
+#include <climits>
 
 namespace {
 
@@ -16,6 +23,14 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_PREVIOUS, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED, "~"),
     endRow(),
 };
+
+constexpr ModifierId::MODIFIER_ID kKeywordIds[] = {
+    ModifierId::MODIFIER_FILEPATH,      ModifierId::MODIFIER_FIND,     ModifierId::MODIFIER_SEVERITY,
+    ModifierId::MODIFIER_CSV_DELIMITER, ModifierId::MODIFIER_CSV_FILE, ModifierId::MODIFIER_PREVIOUS,
+};
+enum KeywordIndex { FILE_KEYWORD, FIND, SEVERITY, CSV_DELIMITER, CSV_FILE, PREVIOUS };
+
+char const* const kDefaultCsvDelimiter = ",";
 
 } // namespace
 
@@ -54,5 +69,61 @@ CmdLogList::CmdLogList()
 
 int CmdLogList::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    TokenModifierString* k[std::size(kKeywordIds)] = {};
+    if (!findKeywords(kKeywordIds, k, err))
+        return ZEKCLI_PARSE_FAIL;
+    LogFilter filter;
+    if (!readFilter(*k[FIND], *k[SEVERITY], filter, err))
+        return ZEKCLI_PARSE_FAIL;
+    // How many of the newest matches to print; read with the other keywords,
+    // so that a bad number is refused before any file is written.
+    int newestWanted = 0;
+    bool newestWantedGiven = false;
+    if (!getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_PREVIOUS, 0, INT_MAX, newestWanted,
+                                                 newestWantedGiven, err))
+        return ZEKCLI_PARSE_FAIL;
+
+    HLogView* view = nullptr;
+    LogViewFailure const failure{"    FAIL --> Could not get HLogView", "    FAIL --> Could not get HLogView"};
+    if (int const rc = openLogView(*addressed.adapter, *k[FILE_KEYWORD], failure, view, err))
+        return rc;
+    if (keywordGiven(k[CSV_FILE])) {
+        std::string const delimiter = keywordGiven(k[CSV_DELIMITER]) ? k[CSV_DELIMITER]->value : kDefaultCsvDelimiter;
+        if (!view->writeCsvFile(k[CSV_FILE]->value, delimiter)) {
+            err = "    FAIL --> Could not write CSV file \"" + k[CSV_FILE]->value + "\"";
+            return ZEKCLI_OUTPUT_FAIL;
+        }
+    }
+
+    CommandOutput out(*this);
+    if (!out.banner(addressed.adapter))
+        return out.end(0, err);
+    KLogEntry newest;
+    if (!newestEntry(*view, newest)) {
+        out.line("Log is empty");
+        return out.end(0, err);
+    }
+    long long const limit = newestWantedGiven ? static_cast<long long>(newestWanted) - 1 : view->getCount();
+    if (filter.printNewest(*view, newest, limit, [&out](std::string const& text) { return out.line(text); }))
+        out.result(0);
+    return out.end(0, err);
+}
+
+// -find wins over -severity; an unknown or ambiguous severity is refused
+// with the word matcher's text.
+bool CmdLogList::readFilter(TokenModifierString const& find, TokenModifierString const& severity, LogFilter& filter,
+                            std::string& err) const
+{
+    int worst = 0;
+    if (keywordGiven(&severity)) {
+        if (!resolveSeverity(severity, worst, err))
+            return false;
+        filter.matchSeverity(worst);
+    }
+    if (keywordGiven(&find))
+        filter.matchText(find.value);
+    return true;
 }

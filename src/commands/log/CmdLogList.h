@@ -6,9 +6,15 @@
 
 #include "commands/log/CmdLogBase.h"
 
+class LogFilter;
+
 class CmdLogList : public CmdLogBase {
 public:
     CmdLogList();
 
     int execCommand(std::string& err) override;
+
+private:
+    bool readFilter(TokenModifierString const& find, TokenModifierString const& severity, LogFilter& filter,
+                    std::string& err) const;
 };

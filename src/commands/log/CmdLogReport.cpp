@@ -1,8 +1,11 @@
 #include "commands/log/CmdLogReport.h"
 
+#include "api/HIsaAdapter.h"
+#include "api/HLogView.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
 
 namespace {
 
@@ -26,7 +29,27 @@ CmdLogReport::CmdLogReport()
     helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -file=report.txt";
 }
 
+// The report goes to the file that -file names, or else to the console,
+// where it stands ahead of the banner. A report the library could not write
+// ends the command without a word and with 0.
 int CmdLogReport::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    std::string file;
+    if (int const rc = findAdapterAndFile(*this, addressed, file, err))
+        return rc;
+    std::string scratch;
+    bool const toFile = keywordGiven(findModifier(ModifierId::MODIFIER_FILEPATH, scratch));
+    if (!toFile)
+        file.clear();
+    if (int const rc = addressed.adapter->loadLog(0))
+        return rc;
+    if (HLogView* const view = addressed.adapter->getLogView()) {
+        if (!view->writeReport(file))
+            return 0;
+    }
+    CommandReport report;
+    // Without its closing quote, as the product has always written it.
+    report.text = toFile ? "Report saved successfully to file: \"" + file : std::string();
+    return finishCommand(*this, addressed.adapter, report, err);
 }

@@ -1,8 +1,10 @@
 #include "commands/log/CmdLogSave.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/adapter/FileCommand.h"
 
 namespace {
 
@@ -26,7 +28,19 @@ CmdLogSave::CmdLogSave()
     helpExamples = ugCommandPrompt() + "-zek=0 -file=adapter0.log";
 }
 
+// A log the library could not save ends the command with 0 and without a
+// word of its own.
 int CmdLogSave::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    std::string file;
+    if (int const rc = findAdapterAndFile(*this, addressed, file, err))
+        return rc;
+    if (int const rc = addressed.adapter->loadLog(0))
+        return rc;
+    if (!addressed.adapter->saveLogFile(file))
+        return 0;
+    CommandReport report;
+    report.text = "Log saved successfully to file: \"" + file + "\"";
+    return finishCommand(*this, addressed.adapter, report, err);
 }
