@@ -19,9 +19,8 @@ void appendLogRecords(Adapter& a, long long now, int severity, const std::string
                       long long count)
 {
     // Only what the adapter will keep is added.
-    long long const kept = count < static_cast<long long>(kAdapterLogCapacity)
-        ? count
-        : static_cast<long long>(kAdapterLogCapacity);
+    long long const kept =
+        count < static_cast<long long>(kAdapterLogCapacity) ? count : static_cast<long long>(kAdapterLogCapacity);
     for (long long i = 0; i < kept; ++i)
         a.log.push_back({now, severity, source, message});
     keepNewestLogRecords(a);
