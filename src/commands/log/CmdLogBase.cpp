@@ -2,6 +2,7 @@
 
 #include "api/HIsaAdapter.h"
 #include "api/HLogView.h"
+#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "records/KLogEntry.h"
 
@@ -42,7 +43,12 @@ bool CmdLogBase::resolveSeverity(TokenModifierString const& keyword, int& severi
     return err.empty();
 }
 
-bool CmdLogBase::newestEntry(HLogView& view, KLogEntry& newest)
+bool CmdLogBase::startWalk(CommandOutput& out, HIsaAdapter* adapter, HLogView& view, KLogEntry& newest)
 {
-    return view.getCount() != 0 && view.getLastEntry(newest);
+    if (!out.banner(adapter))
+        return false;
+    if (view.getCount() != 0 && view.getLastEntry(newest))
+        return true;
+    out.line("Log is empty");
+    return false;
 }

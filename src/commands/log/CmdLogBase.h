@@ -8,6 +8,7 @@
 #include "core/EnumStrList.h"
 #include "core/TokenCmd.h"
 
+class CommandOutput;
 class HIsaAdapter;
 class HLogView;
 class KLogEntry;
@@ -43,8 +44,10 @@ protected:
     // False with the word matcher's text in `err`.
     bool resolveSeverity(TokenModifierString const& keyword, int& severity, std::string& err) const;
 
-    // The newest record, when the log has any.
-    static bool newestEntry(HLogView& view, KLogEntry& newest);
+    // The adapter banner, then the newest record of the log. False when
+    // there is nothing to walk: the output broke, or the log is empty and
+    // "Log is empty" has been shown.
+    static bool startWalk(CommandOutput& out, HIsaAdapter* adapter, HLogView& view, KLogEntry& newest);
 
     // Finds each of `ids` among the command's keywords, in order; false with
     // the lookup's text at the first that is missing.

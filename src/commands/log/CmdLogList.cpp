@@ -99,13 +99,9 @@ int CmdLogList::execCommand(std::string& err)
     }
 
     CommandOutput out(*this);
-    if (!out.banner(addressed.adapter))
-        return out.end(0, err);
     KLogEntry newest;
-    if (!newestEntry(*view, newest)) {
-        out.line("Log is empty");
-        return out.end(0, err);
-    }
+    if (!startWalk(out, addressed.adapter, *view, newest))
+        return out.end(0, err); // an empty log ends here, without a result record
     long long const limit = newestWantedGiven ? static_cast<long long>(newestWanted) - 1 : view->getCount();
     if (filter.printNewest(*view, newest, limit, [&out](std::string const& text) { return out.line(text); }))
         out.result(0);

@@ -62,7 +62,8 @@ CmdLogView::CmdLogView()
     helpTitle = "View Log";
     helpDescription =
         "Pages through the event log of the adapter, or of a log file saved by \"save log\", from a position "
-        "that is remembered between runs. Without keywords it shows the newest entries.";
+        "that is remembered between runs. Without keywords it shows the entries before the newest one, "
+        "oldest first.";
     helpSyntax = "\t[-file=<file name>]\n"
                  "\t[-basepos=<position>]\n"
                  "\t[-offset=<entries>]\n"
@@ -77,7 +78,8 @@ CmdLogView::CmdLogView()
                     "-basepos=<position>\n"
                     "\tstart or end: where -offset counts from.\n"
                     "-offset=<entries>\n"
-                    "\tPosition in the log, in entries from -basepos.\n"
+                    "\tPosition in the log, in entries from -basepos (from \"end\" only 0\n"
+                    "\tnames an entry).\n"
                     "-time=\"MM/DD/YYYY HH:MM:SS\"\n"
                     "\tGo back to the newest entry at or before this local time,\n"
                     "\twith the hour 0 to 23.\n"
@@ -87,14 +89,18 @@ CmdLogView::CmdLogView()
                     "\tLook for log entries of this severity or worse: fatal, error, warning,\n"
                     "\ttrace, info, debug, system or unknown.\n"
                     "-previous[=<count>]\n"
-                    "\tPage back by <count> entries from the remembered position.\n"
-                    "\tDefault is 20.\n"
+                    "\tShow the <count> entries before the remembered position, and\n"
+                    "\tremember the oldest one shown. Default is 20.\n"
                     "-next[=<count>]\n"
-                    "\tPage forward by <count> entries from the remembered position.\n" +
+                    "\tShow <count> entries from the remembered position on, and remember\n"
+                    "\tthe one after the last shown. Default is 0.\n" +
         adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -previous=10" + ugCommandPrompt() +
         "-zek=0 -basepos=start -offset=0 -next=20";
-    helpNotes = "-offset needs -basepos.";
+    helpNotes = "-offset needs -basepos. With both -previous and -next, -previous is used. The searches "
+                "(-time, -find, -severity) go back from the remembered position, in that order, and the "
+                "page is shown from the entry found. The position is remembered only when the command "
+                "succeeds.";
 }
 
 int CmdLogView::execCommand(std::string& err)
@@ -136,12 +142,9 @@ int CmdLogView::viewLog(std::string& err)
         return rc;
 
     CommandOutput out(*this);
-    if (!out.banner(addressed.adapter))
-        return out.end(0, err);
     KLogEntry newest;
-    if (!newestEntry(*view, newest)) {
-        out.line("Log is empty");
-        out.result(0);
+    if (!startWalk(out, addressed.adapter, *view, newest)) {
+        out.result(0); // skipped when the banner failed
         return out.end(0, err);
     }
     long long const count = view->getCount();

@@ -36,72 +36,85 @@ struct Paging {
 
 using Shown = std::vector<std::string>;
 
+// What one page from `start` shows, and where it leaves the position.
+struct Paged {
+    Shown shown;
+    long long position;
+};
+
+Paged page(long long start, bool backward, long long length)
+{
+    Paging p;
+    EXPECT_TRUE(p.pager.startAt(start));
+    EXPECT_TRUE(backward ? p.pager.backward(length) : p.pager.forward(length));
+    return {p.shown, p.pager.position()};
+}
+
+Paged back(long long start, long long previous)
+{
+    return page(start, true, previous);
+}
+
+Paged ahead(long long start, long long next)
+{
+    return page(start, false, next);
+}
+
 } // namespace
 
 TEST(LogPager, BackwardShowsTheRecordsBeforeThePositionOldestFirst)
 {
-    Paging p;
-    ASSERT_TRUE(p.pager.startAt(4));
-    EXPECT_TRUE(p.pager.backward(2));
-    EXPECT_EQ(p.shown, (Shown{"2", "3"}));
-    EXPECT_EQ(p.pager.position(), 2);
+    Paged const paged = back(4, 2);
+    EXPECT_EQ(paged.shown, (Shown{"2", "3"}));
+    EXPECT_EQ(paged.position, 2);
 }
 
 TEST(LogPager, BackwardStopsAtTheOldestRecord)
 {
+    Paged const paged = back(4, 19);
+    EXPECT_EQ(paged.shown, (Shown{"0", "1", "2", "3"}));
+    EXPECT_EQ(paged.position, 0);
+}
+
+TEST(LogPager, OneLookUpByIndexAndEveryOtherMoveByNeighbour)
+{
     Paging p;
     ASSERT_TRUE(p.pager.startAt(4));
     EXPECT_TRUE(p.pager.backward(19));
-    EXPECT_EQ(p.shown, (Shown{"0", "1", "2", "3"}));
-    EXPECT_EQ(p.pager.position(), 0);
-    EXPECT_EQ(p.view.lookups, 1) << "one look-up by index; every other move is by neighbour";
+    EXPECT_EQ(p.view.lookups, 1);
 }
 
-TEST(LogPager, BackwardByNothingShowsNothingAndKeepsThePosition)
+TEST(LogPager, BackwardByNothingOrFromTheOldestShowsNothingAndKeepsThePosition)
 {
     for (long long previous : {0LL, -1LL}) {
-        Paging p;
-        ASSERT_TRUE(p.pager.startAt(3));
-        EXPECT_TRUE(p.pager.backward(previous));
-        EXPECT_TRUE(p.shown.empty());
-        EXPECT_EQ(p.pager.position(), 3);
+        Paged const paged = back(3, previous);
+        EXPECT_TRUE(paged.shown.empty());
+        EXPECT_EQ(paged.position, 3);
     }
-}
-
-TEST(LogPager, BackwardFromTheOldestShowsNothing)
-{
-    Paging p;
-    ASSERT_TRUE(p.pager.startAt(0));
-    EXPECT_TRUE(p.pager.backward(5));
-    EXPECT_TRUE(p.shown.empty());
-    EXPECT_EQ(p.pager.position(), 0);
+    Paged const fromOldest = back(0, 5);
+    EXPECT_TRUE(fromOldest.shown.empty());
+    EXPECT_EQ(fromOldest.position, 0);
 }
 
 TEST(LogPager, ForwardShowsFromThePositionAndEndsOnePastTheLastShown)
 {
-    Paging p;
-    ASSERT_TRUE(p.pager.startAt(1));
-    EXPECT_TRUE(p.pager.forward(2));
-    EXPECT_EQ(p.shown, (Shown{"1", "2"}));
-    EXPECT_EQ(p.pager.position(), 3);
+    Paged const paged = ahead(1, 2);
+    EXPECT_EQ(paged.shown, (Shown{"1", "2"}));
+    EXPECT_EQ(paged.position, 3);
 }
 
 TEST(LogPager, ForwardToTheNewestSaysEndOfLogAndStaysThere)
 {
-    Paging p;
-    ASSERT_TRUE(p.pager.startAt(3));
-    EXPECT_TRUE(p.pager.forward(INT_MAX));
-    EXPECT_EQ(p.shown, (Shown{"3", "4", "End_of_Log\n\n"}));
-    EXPECT_EQ(p.pager.position(), 4);
+    Paged const paged = ahead(3, INT_MAX);
+    EXPECT_EQ(paged.shown, (Shown{"3", "4", "End_of_Log\n\n"}));
+    EXPECT_EQ(paged.position, 4);
 }
 
 TEST(LogPager, ForwardByNothingShowsNothing)
 {
-    Paging p;
-    ASSERT_TRUE(p.pager.startAt(2));
-    EXPECT_TRUE(p.pager.forward(0));
-    EXPECT_TRUE(p.shown.empty());
-    EXPECT_EQ(p.pager.position(), 2);
+    Paged const paged = ahead(2, 0);
+    EXPECT_TRUE(paged.shown.empty());
+    EXPECT_EQ(paged.position, 2);
 }
 
 TEST(LogPager, ARecordMovedBackByASearchPagesFromThereAndSaysStartOfLog)

@@ -97,22 +97,18 @@ The library's refusals come back as they are:
   $ hostcli -zek clear log -zek=0
   \r             \r*** The adapter does not respond (it is offline or restarting) (esc)
   [255]
-  $ hbasim fault zek-log loadLog 1000 >/dev/null
-  $ hostcli -zek save log -zek=0 -file=never.log
+  $ for command in "save log -file=never.log" "report log" "view log" "list log"; do
+  >   hbasim fault zek-log loadLog 1000 >/dev/null
+  >   hostcli -zek $command -zek=0; echo "exit $?"
+  > done
   \r             \r*** General failure (esc)
-  [255]
-  $ hbasim fault zek-log loadLog 1000 >/dev/null
-  $ hostcli -zek report log -zek=0
+  exit 255
   \r             \r*** General failure (esc)
-  [255]
-  $ hbasim fault zek-log loadLog 1000 >/dev/null
-  $ hostcli -zek view log -zek=0
+  exit 255
   \r             \r*** General failure (esc)
-  [255]
-  $ hbasim fault zek-log loadLog 1000 >/dev/null
-  $ hostcli -zek list log -zek=0
+  exit 255
   \r             \r*** General failure (esc)
-  [255]
+  exit 255
   $ ls never.log 2>&1
   ls: cannot access 'never.log': No such file or directory
   [2]
