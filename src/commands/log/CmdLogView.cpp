@@ -40,20 +40,6 @@ void rememberValue(TokenModifierString& keyword, std::string const& text)
     keyword.isDefault = !typed;
 }
 
-// A keyword's value and whether it was typed, to be put back as they were.
-struct KeptValue {
-    explicit KeptValue(TokenModifierString& keyword) : keyword(keyword), value(keyword.value), typed(!keyword.isDefault)
-    {}
-    void putBack() const
-    {
-        keyword.value = value;
-        keyword.isDefault = !typed;
-    }
-    TokenModifierString& keyword;
-    std::string value;
-    bool typed;
-};
-
 } // namespace
 
 CmdLogView::CmdLogView()
@@ -113,14 +99,30 @@ int CmdLogView::execCommand(std::string& err)
         return ZEKCLI_PARSE_FAIL;
     }
     // The remembered position and page length change only with a command
-    // that succeeds, whatever the steps of a failing one wrote into them.
-    KeptValue const keptOffset(*offset), keptPrevious(*previous);
+    // that succeeds, whatever a failing one typed or wrote into them. This
+    // matters where one process runs many commands and keeps what the last
+    // left (a script, menu mode); a single command that fails is never kept.
+    std::string const offsetBefore = valueBeforeThisLine(*offset, rememberedOffset);
+    std::string const previousBefore = valueBeforeThisLine(*previous, rememberedPrevious);
     int const rc = viewLog(err);
     if (rc != 0) {
-        keptOffset.putBack();
-        keptPrevious.putBack();
+        offset->value = offsetBefore;
+        previous->value = previousBefore;
     }
+    rememberedOffset = offset->value;
+    rememberedPrevious = previous->value;
     return rc;
+}
+
+// A keyword that was not typed still holds what the preferences or the last
+// command left. A typed one has lost that value, which is known only when an
+// earlier command of this process left it.
+std::string CmdLogView::valueBeforeThisLine(TokenModifierString const& keyword,
+                                            std::optional<std::string> const& remembered)
+{
+    if (keyword.isDefault || !remembered)
+        return keyword.value;
+    return *remembered;
 }
 
 int CmdLogView::viewLog(std::string& err)

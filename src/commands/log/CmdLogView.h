@@ -6,6 +6,7 @@
 // keyword values of a successful command.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "commands/log/CmdLogBase.h"
@@ -41,8 +42,13 @@ private:
     };
 
     int viewLog(std::string& err);
+    static std::string valueBeforeThisLine(TokenModifierString const& keyword,
+                                           std::optional<std::string> const& remembered);
     bool readPageKeywords(Keywords const& k, long long count, Page& page, std::string& err);
     int startPosition(Keywords const& k, long long count, Page const& page, long long& position, std::string& err);
     bool searchOlder(Keywords const& k, HLogView& view, KLogEntry& current, std::string& err);
     static bool showPage(Keywords const& k, Page const& page, LogPager& pager);
+
+    // What the last command of this process left in -offset and -previous.
+    std::optional<std::string> rememberedOffset, rememberedPrevious;
 };

@@ -27,6 +27,19 @@ Nor does a view log whose output cannot be written (55), here its text file:
   [55]
   $ cmp zekcli.ini before.ini
 
+In a script that goes on after a failing line and ends with 0, the failing
+lines leave the position as the line before them left it, whatever they
+typed:
+
+  $ printf '%s\n' 'view log -zek=0 -basepos=start -offset=2 -previous=0' \
+  >   'view log -zek=0 -basepos=start -offset=9' 'view log -zek=0 -basepos=end -offset=3' \
+  >   'view log -zek=0 -time=bad -previous=7' > lines.cfg
+  $ hostcli -zek execute script -file=lines.cfg -continue_on_error -quiet
+  $ remembered-value view log offset
+  2
+  $ remembered-value view log previous
+  0
+
 A position saved from a longer log that lies beyond a smaller one names no
 record there:
 
