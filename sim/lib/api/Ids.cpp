@@ -151,17 +151,14 @@ const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id)
     for (const Lun& l : san.luns)
         if (wwulnId(l) == id)
             return &l;
-    // A text name given for a binary WWULN: the user typed the hex digits.
+    // A text name given for a binary WWULN: the user typed its digits, plain
+    // or as the tool prints them.
     PBase::WWULN_CODE_SET_TYPE codeSet;
     unsigned short length = 0;
     unsigned char name[KWwulnLunID::WWULN_COPY_SIZE];
     if (!id.copyWwulnInfo(codeSet, length, name, sizeof name))
         return nullptr;
-    std::string text(reinterpret_cast<const char*>(name), length);
-    for (const Lun& l : san.luns)
-        if (l.wwuln == text || (l.codeSet == 1 && strcasecmp(l.wwuln.c_str(), text.c_str()) == 0))
-            return &l;
-    return nullptr;
+    return findLunByWwuln(san, std::string(reinterpret_cast<const char*>(name), length));
 }
 
 KDriveID driveId(const Drive& d)

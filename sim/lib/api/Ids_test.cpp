@@ -97,3 +97,41 @@ TEST(HexToBytesTest, ABadDigitKeepsTheBytesBeforeItAndAnOddCountNone)
     EXPECT_FALSE(hexToBytes("0a1", out));
     EXPECT_TRUE(out.empty());
 }
+
+namespace {
+
+// A WWULN as the command line passes it when it retries by name: text, in the
+// form the user typed.
+KWwulnLunID typedWwuln(const std::string& text)
+{
+    std::vector<unsigned char> bytes(text.begin(), text.end());
+    KWwulnLunID id;
+    id.initWwulnLunID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(bytes.size()), bytes.data());
+    return id;
+}
+
+} // namespace
+
+TEST_F(WwulnIndexTest, ABinaryWwulnTypedAsTheToolPrintsItNamesTheSameLun)
+{
+    const Lun* lun = findLunByWwuln(san, std::string("600A0B80002A1C3D0000000052B2A001"));
+    ASSERT_NE(lun, nullptr);
+    EXPECT_EQ(lunForWwulnId(san, wwulnId(*lun)), lun);
+    EXPECT_EQ(lunForWwulnId(san, typedWwuln("600A0B80002A1C3D0000000052B2A001")), lun);
+    EXPECT_EQ(lunForWwulnId(san, typedWwuln("600a0b80002a1c3d0000000052b2a001")), lun);
+    EXPECT_EQ(lunForWwulnId(san, typedWwuln("600A-0B80-002A-1C3D-0000-0000-52B2-A001")), lun);
+    EXPECT_EQ(lunForWwulnId(san, typedWwuln("600a-0b80-002a-1c3d-0000-0000-52b2-a001")), lun);
+    EXPECT_EQ(findLunByWwuln(san, std::string("600A-0B80-002A-1C3D-0000-0000-52B2-A001")), lun);
+}
+
+TEST_F(WwulnIndexTest, OnlyDashesBetweenDigitsAreLeftOutOfATypedWwuln)
+{
+    for (const char* text : {"-600A0B80002A1C3D0000000052B2A001", "600A0B80002A1C3D0000000052B2A001-",
+                             "600A--0B80002A1C3D0000000052B2A001", "600A:0B80:002A:1C3D:0000:0000:52B2:A001"})
+        EXPECT_EQ(lunForWwulnId(san, typedWwuln(text)), nullptr) << text;
+    // A text WWULN keeps its dashes: it is found as it is written.
+    const Lun* text = findLunByWwuln(san, std::string("vault.example:lun-archive-07"));
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(lunForWwulnId(san, typedWwuln("vault.example:lun-archive-07")), text);
+    EXPECT_EQ(lunForWwulnId(san, typedWwuln("vault.example:lunarchive07")), nullptr);
+}

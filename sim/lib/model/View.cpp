@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <strings.h>
 #include <unordered_map>
 
 namespace sim {
@@ -98,12 +99,40 @@ const Lun* findLun(const San& san, const PathRef& path)
     return findLun(const_cast<San&>(san), path);
 }
 
+namespace {
+
+// A binary WWULN as the tool prints it, "6006-0160-A1B2-...", is its digits
+// without the dashes; any other text stays as it is.
+std::string undashed(const std::string& text)
+{
+    bool dashedDigits = !text.empty() && text.front() != '-' && text.back() != '-' &&
+        text.find("--") == std::string::npos && text.find_first_not_of("0123456789abcdefABCDEF-") == std::string::npos;
+    if (!dashedDigits)
+        return text;
+    std::string digits;
+    for (char c : text)
+        if (c != '-')
+            digits += c;
+    return digits;
+}
+
+} // namespace
+
 Lun* findLunByWwuln(San& san, const std::string& wwuln)
 {
     for (Lun& l : san.luns)
         if (l.wwuln == wwuln)
             return &l;
+    std::string digits = undashed(wwuln);
+    for (Lun& l : san.luns)
+        if (l.codeSet == 1 && strcasecmp(l.wwuln.c_str(), digits.c_str()) == 0)
+            return &l;
     return nullptr;
+}
+
+const Lun* findLunByWwuln(const San& san, const std::string& wwuln)
+{
+    return findLunByWwuln(const_cast<San&>(san), wwuln);
 }
 
 bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path)

@@ -33,7 +33,10 @@ struct PathRef {
 
 Lun* findLun(San& san, const PathRef& path);
 const Lun* findLun(const San& san, const PathRef& path);
+// By the WWULN as a scenario writes it, or for a binary one also as the tool
+// prints it (groups of four digits joined by dashes), in either case.
 Lun* findLunByWwuln(San& san, const std::string& wwuln);
+const Lun* findLunByWwuln(const San& san, const std::string& wwuln);
 bool adapterSeesPath(const San& san, const Adapter& a, const PathRef& path);
 
 struct VisiblePath {

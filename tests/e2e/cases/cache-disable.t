@@ -61,6 +61,21 @@ that name. The line then says -is_target, as no target keyword was given.
   0
   [1]
 
+The WWULN may also be given as the tool shows it, in groups of four digits;
+the adapter (and hbasim) finds the LUN by either form.
+
+  $ hbasim online lun 600a-0b80-002a-1c3d-0000-0000-52b2-a002
+  $ hostcli -zek enable cache -zek=0 -mode=read_write_through -fc_target=21000024FF3C5A10 -lun_number=2 >/dev/null
+  $ hbasim offline lun 600A-0B80-002A-1C3D-0000-0000-52B2-A002
+  $ hostcli -zek disable cache -zek=0 -lun_wwuln=600A-0B80-002A-1C3D-0000-0000-52B2-A002
+  [ Device 0 on local host ]
+  
+  Successfully disabled caching for LUN   -is_target=2100-0024-FF3C-5A10 -lun_number=2
+  
+  $ hbasim show | grep -A1 "52B2A002 " | grep -c cached
+  0
+  [1]
+
 Through a cluster: the request goes to the cluster's primary, which
 releases the LUN wherever the cluster caches it, and the LUN must be named
 by WWULN (the message spells the keyword its own way).
