@@ -31,17 +31,17 @@ const char* modeName(int mode)
     static const char* names[] = {"none",      "read/write-through", "read/write-back",
                                   "read-only", "write-through-only", "write-back-only",
                                   "purging"};
-    return mode >= 0 && mode <= 6 ? names[mode] : "unknown";
+    return mode >= CacheStop && mode <= CachePurge ? names[mode] : "unknown";
 }
 
 const char* lunTypeName(int type)
 {
     switch (type) {
-    case 1:
+    case kDirectAccessLun:
         return "direct access";
-    case 2:
+    case kSequentialAccessLun:
         return "sequential access";
-    case 11:
+    case kSanControllerLun:
         return "controller";
     default:
         return "other";
@@ -71,7 +71,7 @@ std::string adapters(const San& san, long long now)
     for (const Adapter& a : san.adapters) {
         std::string reach = a.device >= 0 ? "device " + std::to_string(a.device) + " on " + hostName(a.host)
                                           : "SAN via device " + std::to_string(a.viaDevice) + " on " + hostName(a.host);
-        std::string state = a.state != 1 ? "OFFLINE" : adapterAnswers(a, now) ? "online" : "restarting";
+        std::string state = a.state != AdapterOnline ? "OFFLINE" : adapterAnswers(a, now) ? "online" : "restarting";
         text += "  " + adapterIdText(a.id.value) + "  " + reach + ", " + state + ", \"" + a.symbolicName + "\", " +
             adapterRole(san, a) + "\n";
         std::string ports;

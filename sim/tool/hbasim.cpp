@@ -324,7 +324,7 @@ bool setAdapterOnline(San& san, const std::vector<std::string>& args, bool onlin
         return false;
     }
     if (args[0] == "adapter") {
-        a->state = online ? 1 : 2;
+        a->state = online ? AdapterOnline : AdapterOffline;
         return true;
     }
     long long port;

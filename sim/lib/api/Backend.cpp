@@ -93,7 +93,7 @@ int Backend::change(const std::function<int(San&, long long now)>& change, bool 
         rules::settle(*demo_, t);
         San copy = *demo_;
         int rc = change(copy, t);
-        if (keepAlways || !code::isFailure(rc) || rc == code::Partial) {
+        if (keepAlways || code::keepsChange(rc)) {
             demo_ = std::move(copy);
             ++changeCount_;
         }
@@ -106,7 +106,7 @@ int Backend::change(const std::function<int(San&, long long now)>& change, bool 
         [&](San& san) {
             rules::settle(san, t);
             rc = change(san, t);
-            return keepAlways || rc == code::Ok || rc == code::OkRestartRequired;
+            return keepAlways || code::keepsChange(rc);
         },
         error, changeBase(t), &next);
     if (!stored) {

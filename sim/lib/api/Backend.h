@@ -26,8 +26,8 @@ public:
     const San* view();
 
     // Runs `change` on the SAN under the state lock and keeps the result when
-    // `change` succeeds (code 0 or 1) or when `keepAlways` is set. Returns the
-    // code of `change`, or the state-file failure code.
+    // its code keeps a change (code::keepsChange) or when `keepAlways` is set.
+    // Returns the code of `change`, or the state-file failure code.
     int change(const std::function<int(San&, long long now)>& change, bool keepAlways = false);
 
     // Fault injection: the code an injected fault gives this operation, or 0.

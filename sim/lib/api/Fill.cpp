@@ -2,6 +2,7 @@
 
 #include "api/Ids.h"
 #include "model/Rules.h"
+#include "model/States.h"
 #include "model/View.h"
 #include "model/Workload.h"
 
@@ -29,6 +30,43 @@
 #include <cstring>
 
 namespace sim {
+
+// The model's states go into the records as they are.
+constexpr bool sameNumber(long long model, long long record)
+{
+    return model == record;
+}
+static_assert(sameNumber(AdapterOnline, KIsaAdapterInfo::ADAPTER_STATE_ONLINE));
+static_assert(sameNumber(AdapterOffline, KIsaAdapterInfo::ADAPTER_STATE_OFFLINE));
+static_assert(sameNumber(LunNotCached, KLunInfo::CACHE_STATE_NOT_CACHED));
+static_assert(sameNumber(LunCachedHere, KLunInfo::CACHE_STATE_CACHED_LOCAL));
+static_assert(sameNumber(LunCachedOnPeer, KLunInfo::CACHE_STATE_CACHED_PEER));
+static_assert(sameNumber(NotMirrored, KLunInfo::MIRROR_STATE_NOT_MIRRORED));
+static_assert(sameNumber(MirrorPrimary, KLunInfo::MIRROR_STATE_PRIMARY));
+static_assert(sameNumber(MirrorSecondary, KLunInfo::MIRROR_STATE_SECONDARY));
+static_assert(sameNumber(CacheReadWriteThrough, KLunCacheInfo::CACHE_MODE_READ_WRITE_THROUGH));
+static_assert(sameNumber(CacheReadWriteBack, KLunCacheInfo::CACHE_MODE_READ_WRITE_BACK));
+static_assert(sameNumber(CacheReadOnly, KLunCacheInfo::CACHE_MODE_READ_ONLY));
+static_assert(sameNumber(CacheWriteThroughOnly, KLunCacheInfo::CACHE_MODE_WRITE_THROUGH_ONLY));
+static_assert(sameNumber(CacheWriteBackOnly, KLunCacheInfo::CACHE_MODE_WRITE_BACK_ONLY));
+static_assert(sameNumber(CachePurge, KLunCacheInfo::CACHE_MODE_PURGE_IN_PROGRESS));
+static_assert(sameNumber(MirrorPeerDone, KLunCacheInfo::MIRROR_CACHE_PEER_DONE));
+static_assert(sameNumber(kMirrorConfigured, 1u << KLunCacheInfo::MIRROR_STATE_CONFIGURED));
+static_assert(sameNumber(kMirrorInSynchrony, 1u << KLunCacheInfo::MIRROR_STATE_IN_SYNCHRONY));
+static_assert(sameNumber(kMirrorInTransition, 1u << KLunCacheInfo::MIRROR_STATE_IN_TRANSITION));
+static_assert(sameNumber(LocalMirrorNone, KSsdLunInfo::SSD_MIRROR_NONE));
+static_assert(sameNumber(LocalMirrorSsdSsd, KSsdLunInfo::SSD_MIRROR_SSD_SSD));
+static_assert(sameNumber(kDirectAccessLun, KLunInfo::LUN_TYPE_DIRECT_ACCESS));
+static_assert(sameNumber(kSequentialAccessLun, KLunInfo::LUN_TYPE_SEQUENTIAL_ACCESS));
+static_assert(sameNumber(kSanControllerLun, KLunInfo::LUN_TYPE_SAN_CONTROLLER));
+static_assert(sameNumber(kLunOnline, 1u << KLunInfo::LUN_STATE_ONLINE));
+static_assert(sameNumber(kLunStorageControllerLun, 1u << KLunInfo::LUN_STATE_STORAGE_CONTROLLER_LUN));
+static_assert(sameNumber(kLunMapped, 1u << KLunInfo::LUN_STATE_MAPPED));
+static_assert(sameNumber(kLunLocal, 1u << KLunInfo::LUN_STATE_LOCAL));
+static_assert(sameNumber(kLunRemote, 1u << KLunInfo::LUN_STATE_REMOTE));
+static_assert(sameNumber(kLunOnSsd, 1u << KLunInfo::LUN_STATE_STORAGE_MEDIA_SSD));
+static_assert(sameNumber(kLunCacheReady, 1u << KLunInfo::LUN_STATE_CACHE_READY));
+static_assert(sameNumber(kLunMirror, 1u << KLunInfo::LUN_STATE_MIRROR));
 
 void copyText(char* field, size_t size, const std::string& text)
 {
@@ -148,7 +186,7 @@ void fillLunInfo(const San& san, const Lun& lun, const Adapter& viewer, KLunInfo
     fillLunStanding(san, lun, viewer, out);
     out.ui64LunSizeBytes = lun.sizeBytes;
     out.m_eLunType = static_cast<KLunInfo::KISA_LUN_TYPE>(lun.type);
-    out.bCacheSynchronizing = lun.cached && lun.cache.mirrored && (lun.cache.mirrorState & (1u << 9));
+    out.bCacheSynchronizing = lun.cached && lun.cache.mirrored && (lun.cache.mirrorState & kMirrorInTransition);
     copyText(out.szVendorId, sizeof out.szVendorId, lun.vendor);
     copyText(out.szProductId, sizeof out.szProductId, lun.product);
     copyText(out.szRevisionLevel, sizeof out.szRevisionLevel, lun.revision);

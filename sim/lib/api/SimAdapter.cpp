@@ -71,7 +71,7 @@ int SimAdapter::withAdapter(const char* operation, const Reader& read, MHbaRetur
     int injected = code::Ok;
     if (rules::hasFault(*san, id_, operation)) {
         injected = backend_.fault(id_, operation, firstError);
-        if (injected != code::Ok && injected != code::Partial)
+        if (!code::keepsChange(injected))
             return injected;
         san = backend_.view(); // taking the fault changed the SAN
         if (!san)
@@ -80,16 +80,15 @@ int SimAdapter::withAdapter(const char* operation, const Reader& read, MHbaRetur
     const Adapter* a = findAdapter(*san, id_);
     if (!a || !adapterAnswers(*a, backend_.now()))
         return code::AdapterNotResponding;
-    int rc = read(*san, *a);
-    return rc == code::Ok ? injected : rc;
+    return code::withInjected(injected, read(*san, *a));
 }
 
 int SimAdapter::apply(const char* operation, const Rule& rule, bool keepAlways)
 {
     int injected = backend_.fault(id_, operation);
-    if (injected != code::Ok && injected != code::Partial)
+    if (!code::keepsChange(injected))
         return injected;
-    return backend_.change(rule, keepAlways);
+    return code::withInjected(injected, backend_.change(rule, keepAlways));
 }
 
 int SimAdapter::applyToLun(const char* operation, const PLunID& lun, const LunRule& rule, bool keepAlways)
@@ -502,13 +501,15 @@ e_MHBA_RETURN SimAdapter::updateFirmware(const char* file)
         return asReturn(code::FileError);
     }
     std::string version = firmwareVersion(image);
-    int rc = withAdapter("updateFirmware", [&](const San&, const Adapter&) { return code::Ok; });
-    if (rc != code::Ok)
-        return asReturn(rc);
+    int checked = withAdapter("updateFirmware", [&](const San&, const Adapter&) { return code::Ok; });
+    if (!code::keepsChange(checked))
+        return asReturn(checked);
     for (int percent = 0; percent < 100; percent += 25)
         backend_.progress(percent);
-    rc = apply("installFirmware", [&](San& s, long long now) { return rules::installFirmware(s, id_, version, now); });
-    if (!code::isFailure(rc)) {
+    int rc = code::withInjected(checked, apply("installFirmware", [&](San& s, long long now) {
+                                    return rules::installFirmware(s, id_, version, now);
+                                }));
+    if (code::keepsChange(rc)) {
         backend_.progress(100);
         backend_.info("Firmware " + version + " written to the adapter flash");
     }
@@ -532,9 +533,9 @@ e_MHBA_RETURN SimAdapter::getFile(const char* localFile, const char* name, bool 
         rc = apply("getFile",
                    [&](San& s, long long now) { return rules::fetchFile(s, id_, wanted, clearAfter, content, now); });
     }
-    if (rc != code::Ok)
+    if (!code::keepsChange(rc))
         return asReturn(rc);
-    return asReturn(writeFile(localFile, content));
+    return asReturn(code::withInjected(rc, writeFile(localFile, content)));
 }
 
 e_MHBA_RETURN SimAdapter::putFile(const char* localFile, const char* name, bool clearFirst)
@@ -557,13 +558,13 @@ e_MHBA_RETURN SimAdapter::getAdapterInfo(KIsaAdapterInfo& out)
     if (!san)
         return asReturn(code::StateFileError);
     const Adapter* a = findAdapter(*san, id_);
-    if (a && a->state == 1 && !adapterAnswers(*a, backend_.now())) {
+    if (a && a->state == AdapterOnline && !adapterAnswers(*a, backend_.now())) {
         // Each question during a restart counts, so a pinned clock still ends it.
         int rc = backend_.change([&](San& s, long long now) { return rules::pollWhileRestarting(s, id_, now); }, true);
         if (rc != code::Ok)
             return asReturn(rc);
     }
-    if (a && a->state != 1) {
+    if (a && a->state != AdapterOnline) {
         // The library knows an offline adapter, and says so in its description.
         fillAdapterInfo(*san, *a, out);
         refresh(*san, *a);
@@ -698,7 +699,7 @@ e_MHBA_RETURN SimAdapter::createLun(uint64_t sizeBytes, const std::string& name,
     int rc = apply("createLun", [&](San& s, long long now) {
         return rules::createLun(s, id_, sizeBytes, name, mirrorType, mirrorAdapter, wwuln, now);
     });
-    if (rc != code::Ok)
+    if (!code::keepsChange(rc) || wwuln.empty())
         return asReturn(rc);
     const San* san = backend_.view();
     const Lun* lun = nullptr;
@@ -709,7 +710,7 @@ e_MHBA_RETURN SimAdapter::createLun(uint64_t sizeBytes, const std::string& name,
     if (!lun)
         return asReturn(code::StateFileError);
     newLun = wwulnId(*lun);
-    return MHBA_S_OK;
+    return asReturn(rc);
 }
 
 e_MHBA_RETURN SimAdapter::modifyLun(const PLunID& lun, uint64_t sizeBytes, const std::string& name)
@@ -789,7 +790,7 @@ e_MHBA_RETURN SimAdapter::getCacheFlushProgress(const PLunID& lun, uint32_t* inP
         "getCacheFlushProgress", lun,
         [&](San& s, long long now, const PathRef& p) { return rules::flushProgress(s, id_, p, running, now); }, true);
     if (inProgress)
-        *inProgress = rc == code::Ok && running ? 1 : 0;
+        *inProgress = code::keepsChange(rc) && running ? 1 : 0;
     // No progress message here: the command line shows a dot per poll, and a
     // percentage from us would break its line.
     return asReturn(rc);

@@ -227,7 +227,7 @@ e_MHBA_RETURN SimApi::checkAdapterPath(KIsaAdapterPath& path)
     const Adapter* a = adapterForPath(*san, path);
     if (!a)
         return MHBA_E_OBJECT_NOT_FOUND;
-    if (a->state != 1)
+    if (a->state != AdapterOnline)
         return asReturn(code::AdapterNotResponding);
     localsPresented_ = true;
     path = *hold(*san, *a)->getAdapterPath();

@@ -37,4 +37,21 @@ inline constexpr int ObjectNotFound = 1206;
 std::string text(int code);
 bool isFailure(int code);
 
+// Whether an operation that answers `code` keeps what it changed. Below 1000
+// (success, restart required, partial success, and the adapters' own
+// refusals, which change nothing before they refuse) it does; from 1000 on
+// nothing the operation did stays. State file and demonstration image alike.
+constexpr bool keepsChange(int code)
+{
+    return code >= Ok && code < Failure;
+}
+
+// The answer of an operation that ran although a fault with code `injected`
+// (below 1000) was waiting for it: the injected code stands for its success,
+// and an answer of its own other than plain success stands for itself.
+constexpr int withInjected(int injected, int own)
+{
+    return own == Ok ? injected : own;
+}
+
 } // namespace sim::code

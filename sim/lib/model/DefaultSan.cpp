@@ -1,6 +1,7 @@
 #include "model/DefaultSan.h"
 
 #include "model/Scenario.h"
+#include "model/States.h"
 #include "state/Clock.h"
 
 #include <cstdio>
@@ -96,7 +97,7 @@ std::vector<Adapter> adapters(long long now)
 
     Adapter offline = makeAdapter(kSanOffline, "", -1, "zek-spare", 1004);
     offline.viaDevice = 0;
-    offline.state = 2;
+    offline.state = AdapterOffline;
 
     Adapter remote = makeAdapter(kRemote, kAgent, 0, "zek-remote", 2001);
     addDrives(remote, 2, 1);
@@ -173,14 +174,14 @@ Lun cachedMirroredLun()
     l.cached = true;
     CacheSettings& c = l.cache;
     c.adapter.value = kDev0;
-    c.mode = 2;
+    c.mode = CacheReadWriteBack;
     c.profile = 2;
     c.maxCacheBytes = 64 * GiB;
     c.lockedRanges = {{0, 2048}, {1048576, 8192}};
     c.mirrored = true;
     c.mirrorAdapter.value = kDev1;
-    c.mirrorState = 0x0101; // configured, in synchrony
-    c.mirrorFlag = 4;
+    c.mirrorState = kMirrorConfigured | kMirrorInSynchrony;
+    c.mirrorFlag = MirrorPeerDone;
     c.dirtyBytes = 512ull * 1024 * 1024;
     l.reservation = {3, "0123456789ABCDEF"};
     return l;
@@ -189,9 +190,9 @@ Lun cachedMirroredLun()
 Lun controllerLun()
 {
     Lun l = sanLun("60060160A1B2C3D4E5F60000000000FF", 0, "0000A1B2C3D400FF", "", {path("array-a-spa", 31)});
-    l.type = 11;
+    l.type = kSanControllerLun;
     l.product = "LUNZ";
-    l.extraState = 1u << 7;
+    l.extraState = kLunStorageControllerLun;
     return l;
 }
 
@@ -202,7 +203,7 @@ Lun peerCachedLun()
     l.vendor = "SIMSTORB";
     l.cached = true;
     l.cache.adapter.value = kDev1;
-    l.cache.mode = 1;
+    l.cache.mode = CacheReadWriteThrough;
     l.cache.profile = 4;
     return l;
 }
@@ -234,7 +235,7 @@ std::vector<Lun> luns()
     textName.vendor = "VAULTSIM";
     textName.product = "ISCSI-VOL";
     Lun tape = sanLun("600A0B80002A1C3D0000000052B2A0F0", 0, "002A1C3D0000A0F0", "", {path("array-b", 8)});
-    tape.type = 2;
+    tape.type = kSequentialAccessLun;
     tape.product = "VIRTUAL-TAPE";
     return {cachedMirroredLun(), uncached, controllerLun(), peerCachedLun(), big, offline, textName, tape, dataLun()};
 }

@@ -5,6 +5,7 @@
 #include "model/Codes.h"
 #include "model/Scenario.h"
 #include "model/ScenarioCodec.h"
+#include "model/States.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -62,9 +63,9 @@ int ownCachedLun(San& san, u64 adapter, const PathRef& path, long long now, Lun*
     if (rc != code::Ok)
         return rc;
     switch (cacheStateFor(*lun, adapter)) {
-    case 1:
+    case LunNotCached:
         return code::NotCached;
-    case 3:
+    case LunCachedOnPeer:
         return code::CachedElsewhere;
     default:
         return code::Ok;
@@ -103,8 +104,8 @@ void applyMirror(CacheSettings& c, u64 mirror)
 {
     c.mirrored = mirror != 0;
     c.mirrorAdapter.value = mirror;
-    c.mirrorState = mirror ? 0x0101 : 0; // configured, in synchrony
-    c.mirrorFlag = mirror ? 4 : 0;
+    c.mirrorState = mirror ? kMirrorConfigured | kMirrorInSynchrony : 0;
+    c.mirrorFlag = mirror ? MirrorPeerDone : MirrorFlagNone;
 }
 
 u32 orDefault(u32 value, u32 fallback)
@@ -131,11 +132,11 @@ int startCaching(San& san, Adapter& a, Lun& lun, const CacheRequest& req, long l
 {
     if (!isCacheableLun(lun))
         return code::NotSanDataLun;
-    if (req.mode < 1 || req.mode > 5 || req.profile < 0 || req.profile > 6)
+    if (!isCachingMode(req.mode) || req.profile < 0 || req.profile > 6)
         return code::InvalidArgument;
-    if ((req.mode == 2 || req.mode == 5) && !hasCapability(a, "WRITE_BACK_CACHE"))
+    if (cachesWritesBack(req.mode) && !hasCapability(a, "WRITE_BACK_CACHE"))
         return code::NotSupported;
-    if ((req.mode == 1 || req.mode == 4) && !hasCapability(a, "WRITE_THROUGH_CACHE"))
+    if (cachesWritesThrough(req.mode) && !hasCapability(a, "WRITE_THROUGH_CACHE"))
         return code::NotSupported;
     if (a.cachePoolBytes == 0)
         return code::NotEnoughStorage;
@@ -161,15 +162,15 @@ int stopOrPurge(San& san, u64 adapter, Lun& lun, int mode, long long now)
     if (!isCacheableLun(lun))
         return code::NotSanDataLun;
     switch (cacheStateFor(lun, adapter)) {
-    case 1:
+    case LunNotCached:
         return code::NotCached;
-    case 3:
+    case LunCachedOnPeer:
         return code::CachedElsewhere;
     default:
         break;
     }
-    if (mode == 6) {
-        lun.cache.mode = 6;
+    if (mode == CachePurge) {
+        lun.cache.mode = CachePurge;
         lun.cache.dirtyBytes = 0;
         lun.cache.lockedRanges.clear();
         lun.cache.since = now;
@@ -259,9 +260,9 @@ u64 freeStorage(const San& san, const Adapter& a)
 
 int checkLocalMirror(San& san, u64 adapter, int mirrorType, u64 mirrorAdapter, long long now)
 {
-    if (mirrorType != 1 && mirrorType != 2)
+    if (mirrorType != LocalMirrorNone && mirrorType != LocalMirrorSsdSsd)
         return code::InvalidArgument;
-    if (mirrorType == 1)
+    if (mirrorType == LocalMirrorNone)
         return code::Ok;
     int rc = checkMirror(san, adapter, mirrorAdapter, now);
     if (rc != code::Ok || mirrorAdapter == 0)
@@ -299,7 +300,7 @@ void settle(San& san, long long now)
         CacheSettings& c = l.cache;
         if (c.flushStarted && now >= c.flushStarted + static_cast<long long>(flushSeconds(c)))
             finishFlush(c);
-        if (c.mode == 6 && now >= c.since + kPurgeSeconds)
+        if (c.mode == CachePurge && now >= c.since + kPurgeSeconds)
             stopCaching(l);
     }
 }
@@ -311,14 +312,14 @@ int enableCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& 
     int rc = visibleLun(san, adapter, path, now, a, lun);
     if (rc != code::Ok)
         return rc;
-    if (req.mode == 0 || req.mode == 6)
+    if (req.mode == CacheStop || req.mode == CachePurge)
         return stopOrPurge(san, adapter, *lun, req.mode, now);
     if (!lun->online)
         return code::LunGone;
     switch (cacheStateFor(*lun, adapter)) {
-    case 2:
+    case LunCachedHere:
         return code::AlreadyCached;
-    case 3:
+    case LunCachedOnPeer:
         return code::CachedElsewhere;
     default:
         break;
@@ -331,10 +332,10 @@ int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& 
     return onOwnCachedLun(san, adapter, path, now, [&](Lun& lun) {
         Adapter* a = findAdapter(san, adapter);
         CacheSettings& c = lun.cache;
-        int mode = req.mode == 0 ? c.mode : req.mode; // no mode keeps the present one
-        if (mode < 1 || mode > 6 || req.profile < 0 || req.profile > 6)
+        int mode = req.mode == CacheStop ? c.mode : req.mode; // no mode keeps the present one
+        if ((!isCachingMode(mode) && mode != CachePurge) || req.profile < 0 || req.profile > 6)
             return code::InvalidArgument;
-        if (mode != c.mode && (mode == 2 || mode == 5) && !hasCapability(*a, "WRITE_BACK_CACHE"))
+        if (mode != c.mode && cachesWritesBack(mode) && !hasCapability(*a, "WRITE_BACK_CACHE"))
             return code::NotSupported;
         if (useDefaults) {
             c.minRead = kDefaultMinRead;
@@ -354,7 +355,7 @@ int modifyCache(San& san, u64 adapter, const PathRef& path, const CacheRequest& 
         applyWindows(c, req);
         if (req.mirrorAdapter != c.mirrorAdapter.value || !c.mirrored)
             applyMirror(c, req.mirrorAdapter);
-        if (mode == 1 || mode == 3 || mode == 4)
+        if (isCachingMode(mode) && !cachesWritesBack(mode))
             c.dirtyBytes = 0; // leaving write-back writes the dirty data out
         return code::Ok;
     });
@@ -491,7 +492,7 @@ int createLun(San& san, u64 adapter, u64 sizeBytes, const std::string& name, int
         lun.localInfo.owner.value = adapter;
         lun.localInfo.name = name;
         lun.localInfo.mirrorType = mirrorType;
-        lun.localInfo.mirrorPeer.value = mirrorType == 2 ? mirrorAdapter : 0;
+        lun.localInfo.mirrorPeer.value = mirrorType == LocalMirrorSsdSsd ? mirrorAdapter : 0;
         std::string target = ensureInternalTarget(san, a);
         lun.paths = {LunPath{target, nextFreeLunNumber(san, target), 1, 3}};
         ++san.nextLocalLun;
@@ -535,7 +536,7 @@ int setLunMirror(San& san, u64 adapter, const PathRef& path, int mirrorType, u64
     if ((rc = checkLocalMirror(san, adapter, mirrorType, mirrorAdapter, now)) != code::Ok)
         return rc;
     lun->localInfo.mirrorType = mirrorType;
-    lun->localInfo.mirrorPeer.value = mirrorType == 2 ? mirrorAdapter : 0;
+    lun->localInfo.mirrorPeer.value = mirrorType == LocalMirrorSsdSsd ? mirrorAdapter : 0;
     return code::Ok;
 }
 

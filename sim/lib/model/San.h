@@ -3,6 +3,8 @@
 // files are all this value written as JSON (see Scenario.h).
 #pragma once
 
+#include "model/States.h"
+
 #include <cstdint>
 #include <map>
 #include <string>
@@ -137,7 +139,7 @@ struct Adapter {
     std::string host;  // "" local host, else the agent address of its host
     int device = -1;   // device instance on its host, -1 when reached only through the SAN
     int viaDevice = 0; // for SAN-only adapters: the local device through which it is reached
-    int state = 1;     // 1 online, 2 offline
+    int state = AdapterOnline;
     std::string productName = "ZEK-8200 Caching HBA";
     std::string symbolicName;
     std::string serialNumber;
@@ -217,7 +219,7 @@ struct LockedRange {
 
 struct CacheSettings {
     AdapterId adapter; // the adapter that caches the LUN
-    int mode = 1;
+    int mode = CacheReadWriteThrough;
     int profile = 1;
     u64 maxCacheBytes = 0;
     u32 minRead = 1;
@@ -228,7 +230,7 @@ struct CacheSettings {
     bool mirrored = false;
     AdapterId mirrorAdapter;
     u32 mirrorState = 0;
-    int mirrorFlag = 0;
+    int mirrorFlag = MirrorFlagNone;
     u64 dirtyBytes = 0;
     long long flushStarted = 0; // 0 no flush running
     u32 flushPolls = 0;         // polls seen since the start; bounds a pinned clock
@@ -239,7 +241,7 @@ struct LocalLun {
     AdapterId owner;
     std::string name;
     bool readOnly = false;
-    int mirrorType = 1;
+    int mirrorType = LocalMirrorNone;
     AdapterId mirrorPeer;
 };
 
@@ -251,7 +253,7 @@ struct Reservation {
 struct Lun {
     std::string wwuln; // text, or hexadecimal digits for a binary WWULN
     int codeSet = 1;   // 1 binary, 2 text
-    int type = 1;
+    int type = kDirectAccessLun;
     u64 sizeBytes = 0;
     std::string vendor = "SIMSTOR";
     std::string product = "VIRTUAL-DISK";

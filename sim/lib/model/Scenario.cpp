@@ -7,6 +7,7 @@
 #include "model/Base64.h"
 #include "model/SanFields.h"
 #include "model/ScenarioCodec.h"
+#include "model/States.h"
 
 #include <arpa/inet.h>
 #include <cinttypes>
@@ -320,7 +321,7 @@ bool validateAdapters(const San& san, std::string& error)
             return fail(error, name() + " names host \"" + a.host + "\", which is not defined");
         if (a.device >= 0 && !devices.insert({a.host, a.device}).second)
             return fail(error, name() + " uses device " + std::to_string(a.device) + " twice on its host");
-        if (a.state != 1 && a.state != 2)
+        if (a.state != AdapterOnline && a.state != AdapterOffline)
             return fail(error, name() + " has state " + std::to_string(a.state) + " (1 online, 2 offline)");
         if (a.ports.size() > 4)
             return fail(error, name() + " has more than 4 ports");

@@ -60,7 +60,7 @@ Cluster* findCluster(San& san, const std::string& id)
 
 bool adapterAnswers(const Adapter& a, long long now)
 {
-    return a.state == 1 && now >= a.restartUntil;
+    return a.state == AdapterOnline && now >= a.restartUntil;
 }
 
 std::vector<int> discoveryPorts(const San& san, const Adapter& a, const Target& t)
@@ -196,29 +196,29 @@ std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a)
     return visiblePaths(san, PathIndex(san), a);
 }
 
-int cacheStateFor(const Lun& lun, u64 adapter)
+CacheState cacheStateFor(const Lun& lun, u64 adapter)
 {
     if (!lun.cached)
-        return 1;
-    return lun.cache.adapter.value == adapter ? 2 : 3;
+        return LunNotCached;
+    return lun.cache.adapter.value == adapter ? LunCachedHere : LunCachedOnPeer;
 }
 
-int mirrorStateFor(const Lun& lun, u64 adapter)
+MirrorRole mirrorStateFor(const Lun& lun, u64 adapter)
 {
-    if (lun.local && lun.localInfo.mirrorType == 2)
-        return lun.localInfo.owner.value == adapter ? 2 : 3;
+    if (lun.local && lun.localInfo.mirrorType == LocalMirrorSsdSsd)
+        return lun.localInfo.owner.value == adapter ? MirrorPrimary : MirrorSecondary;
     if (lun.cached && lun.cache.mirrored) {
         if (lun.cache.adapter.value == adapter)
-            return 2;
+            return MirrorPrimary;
         if (lun.cache.mirrorAdapter.value == adapter)
-            return 3;
+            return MirrorSecondary;
     }
-    return 1;
+    return NotMirrored;
 }
 
 bool isCacheableLun(const Lun& lun)
 {
-    return lun.type == 1 && !lun.local;
+    return lun.type == kDirectAccessLun && !lun.local;
 }
 
 u32 lunStateBits(const San& san, const Lun& lun, const Adapter& viewer)
@@ -226,16 +226,16 @@ u32 lunStateBits(const San& san, const Lun& lun, const Adapter& viewer)
     (void)san;
     u32 bits = lun.extraState;
     if (lun.online)
-        bits |= 1u << 0;
-    bits |= 1u << 11; // mapped
+        bits |= kLunOnline;
+    bits |= kLunMapped;
     if (lun.local) {
-        bits |= 1u << 18; // storage media SSD
-        bits |= lun.localInfo.owner == viewer.id ? 1u << 14 : 1u << 15;
-        if (lun.localInfo.mirrorType == 2)
-            bits |= 1u << 22;
+        bits |= kLunOnSsd;
+        bits |= lun.localInfo.owner == viewer.id ? kLunLocal : kLunRemote;
+        if (lun.localInfo.mirrorType == LocalMirrorSsdSsd)
+            bits |= kLunMirror;
     }
-    if (lun.cached && lun.cache.mode != 6)
-        bits |= 1u << 21; // cache ready
+    if (lun.cached && lun.cache.mode != CachePurge)
+        bits |= kLunCacheReady;
     return bits;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/San.h"
+#include "model/States.h"
 
 #include <string>
 #include <vector>
@@ -63,10 +64,8 @@ std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a);
 std::vector<VisiblePath> visiblePaths(const San& san, const PathIndex& index, const Adapter& a);
 std::vector<VisiblePath> visiblePaths(const San& san, const Adapter& a, const Target& t);
 
-// 1 not cached, 2 cached on this adapter, 3 cached on a peer.
-int cacheStateFor(const Lun& lun, u64 adapter);
-// 1 not mirrored, 2 primary, 3 secondary.
-int mirrorStateFor(const Lun& lun, u64 adapter);
+CacheState cacheStateFor(const Lun& lun, u64 adapter);
+MirrorRole mirrorStateFor(const Lun& lun, u64 adapter);
 bool isCacheableLun(const Lun& lun);
 u32 lunStateBits(const San& san, const Lun& lun, const Adapter& viewer);
 

@@ -65,7 +65,7 @@ LunLoad lunLoad(const San& san, const Lun& lun, const Adapter& viewer, long long
         u64 s = seedOf(lun.wwuln);
         // Hits on data loaded by reads and by writes share the data read.
         load.readHitBytes = readBytes * (45 + s % 35) / 100;
-        load.writeHitBytes = lun.cache.mode == 2 || lun.cache.mode == 5 ? readBytes * (5 + s % 10) / 100 : 0;
+        load.writeHitBytes = cachesWritesBack(lun.cache.mode) ? readBytes * (5 + s % 10) / 100 : 0;
         load.readHitPercent = percentOf(load.readHitBytes, readBytes);
         load.writeHitPercent = percentOf(load.writeHitBytes, readBytes);
         u64 limit = lun.cache.maxCacheBytes ? lun.cache.maxCacheBytes : lun.sizeBytes / 4;

@@ -24,3 +24,28 @@ An adapter taken offline cannot be addressed, and scans list it as offline.
   The adapter does not respond (it is offline or restarting)
   $ hostcli -zek list cluster | grep 2000001B32A10E00
       -zek=2000001B32A10E00      <Offline>
+
+A fault whose code is below 1000 is the operation's answer, and what the
+operation changed is kept; from 1000 on nothing changes.
+
+  $ hbasim reset >/dev/null
+  $ hbasim fault zek-prod-a enableCache 1
+  $ hostcli -zek enable cache -zek=0 -mode=read_write_through -lun_number=1 -fc_target=50:06:01:60:39:A0:11:22
+  [ Device 0 on local host ]
+  
+  \r             \r*** Success, but the adapter must be restarted for the change to take effect (esc)
+  [1]
+  $ hbasim show | grep -A1 60060160A1B2C3D4E5F6000000000002 | tail -n 1
+        cached read/write-through on 2000001B32A10C00
+  $ hbasim fault zek-prod-a lockCache 2
+  $ hostcli -zek lock cache -zek=0 -lun_number=1 -fc_target=50:06:01:60:39:A0:11:22 -lun_start_lba=0 -lun_size_lba=8
+  [ Device 0 on local host ]
+  
+  Successfully locked cache for LBA range 0 to 8, -fc_target=5006-0160-39A0-1122 -lun_number=1
+  
+  $ hbasim fault zek-prod-a lockCache 1000
+  $ hostcli -zek lock cache -zek=0 -lun_number=1 -fc_target=50:06:01:60:39:A0:11:22 -lun_start_lba=100 -lun_size_lba=8
+  \r             \r*** General failure (esc)
+  [255]
+  $ hbasim show | grep -A1 60060160A1B2C3D4E5F6000000000002 | tail -n 1
+        cached read/write-through on 2000001B32A10C00, 1 locked ranges
