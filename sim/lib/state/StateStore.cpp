@@ -4,8 +4,10 @@
 #include "model/Scenario.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
 #include <memory>
 #include <sys/file.h>
@@ -87,25 +89,53 @@ bool fileExists(const std::string& path)
 
 namespace {
 
+// The process number a temporary file is named after; only plain digits.
+bool pidOfName(const std::string& digits, pid_t& out)
+{
+    if (digits.empty() || digits.size() > 9 || digits.find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    out = static_cast<pid_t>(std::stol(digits));
+    return out > 0;
+}
+
+bool processExists(pid_t pid)
+{
+    // EPERM: it exists, it is merely someone else's.
+    return ::kill(pid, 0) == 0 || errno != ESRCH;
+}
+
 std::string stampOf(const struct stat& st)
 {
     return std::to_string(st.st_ino) + ":" + std::to_string(st.st_size) + ":" + std::to_string(st.st_mtim.tv_sec) +
         "." + std::to_string(st.st_mtim.tv_nsec);
 }
 
-// Reads a whole file; `stamp`, when given, gets the stamp of the very file
-// read, not of whatever the path names a moment later.
-bool readWholeFile(const std::string& path, std::string& text, std::string* stamp, std::string& error)
+// Anything larger is no file of ours, and reading it whole would only
+// exhaust memory.
+constexpr off_t kLargestFile = off_t{256} << 20;
+
+// Only a regular file of a sane size is read: a FIFO would block for ever and
+// a device such as /dev/zero never ends. `name` says what the file is for.
+bool checkReadable(int fd, const std::string& name, struct stat& st, std::string& error)
 {
-    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) {
-        error = systemError("cannot open", path);
+    if (::fstat(fd, &st) != 0) {
+        error = std::string("cannot read ") + name + ": " + std::strerror(errno);
         return false;
     }
-    text.clear();
-    struct stat st;
-    if (::fstat(fd, &st) == 0 && st.st_size > 0)
-        text.reserve(static_cast<size_t>(st.st_size));
+    if (!S_ISREG(st.st_mode)) {
+        error = name + " is not a regular file";
+        return false;
+    }
+    if (st.st_size > kLargestFile) {
+        error = name + " is larger than 256 MiB";
+        return false;
+    }
+    return true;
+}
+
+// Reads up to the limit; a file that grew past it since the check is refused.
+bool readUpToLimit(int fd, const std::string& path, const std::string& name, std::string& text, std::string& error)
+{
     char buf[65536];
     for (;;) {
         ssize_t n = ::read(fd, buf, sizeof buf);
@@ -113,24 +143,52 @@ bool readWholeFile(const std::string& path, std::string& text, std::string* stam
             continue;
         if (n < 0) {
             error = systemError("cannot read", path);
-            ::close(fd);
             return false;
         }
         if (n == 0)
-            break;
+            return true;
+        if (text.size() + static_cast<size_t>(n) > static_cast<size_t>(kLargestFile)) {
+            error = name + " is larger than 256 MiB";
+            return false;
+        }
         text.append(buf, static_cast<size_t>(n));
     }
-    if (stamp)
+}
+
+// Reads a whole file; `stamp`, when given, gets the stamp of the very file
+// read, not of whatever the path names a moment later.
+bool readWholeFile(const std::string& path, const std::string& name, std::string& text, std::string* stamp,
+                   std::string& error)
+{
+    // Not blocking: opening a FIFO for reading would wait for a writer.
+    int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        error = systemError("cannot open", path);
+        return false;
+    }
+    text.clear();
+    struct stat st;
+    bool ok = checkReadable(fd, name, st, error);
+    if (ok) {
+        text.reserve(static_cast<size_t>(st.st_size));
+        ok = readUpToLimit(fd, path, name, text, error);
+    }
+    if (ok && stamp)
         *stamp = ::fstat(fd, &st) == 0 ? stampOf(st) : std::string();
     ::close(fd);
-    return true;
+    return ok;
+}
+
+std::string quoted(const std::string& path)
+{
+    return "\"" + path + "\"";
 }
 
 } // namespace
 
 bool readTextFile(const std::string& path, std::string& text, std::string& error)
 {
-    return readWholeFile(path, text, nullptr, error);
+    return readWholeFile(path, quoted(path), text, nullptr, error);
 }
 
 bool writeTextFileAtomically(const std::string& path, const std::string& text, std::string& error)
@@ -190,14 +248,51 @@ std::string StateStore::stamp() const
     return stampOf(st);
 }
 
+std::string StateStore::name() const
+{
+    return "simulator state file " + quoted(path_);
+}
+
+bool StateStore::readText(std::string& text, std::string* stamp, std::string& error) const
+{
+    return readWholeFile(path_, name(), text, stamp, error);
+}
+
 bool StateStore::parse(const std::string& text, San& out, std::string& error) const
 {
-    return scenarioFromText(text, "simulator state file \"" + path_ + "\"", out, error);
+    return scenarioFromText(text, name(), out, error);
 }
 
 bool StateStore::writeFile(const San& san, std::string& error) const
 {
-    return writeTextFileAtomically(path_, scenarioToText(san), error);
+    return writeText(scenarioToText(san), error);
+}
+
+bool StateStore::writeText(const std::string& text, std::string& error) const
+{
+    removeStaleTemporaries();
+    return writeTextFileAtomically(path_, text, error);
+}
+
+// A writer killed between creating its temporary file and the rename leaves
+// that file behind. Every write happens under the lock, so the next writer
+// can tell: a temporary file whose process is gone will never be renamed.
+void StateStore::removeStaleTemporaries() const
+{
+    auto slash = path_.rfind('/');
+    std::string dir = slash == std::string::npos ? "." : slash == 0 ? "/" : path_.substr(0, slash);
+    std::string prefix = path_.substr(slash == std::string::npos ? 0 : slash + 1) + ".tmp.";
+    DIR* d = ::opendir(dir.c_str());
+    if (!d)
+        return;
+    while (const dirent* entry = ::readdir(d)) {
+        std::string file = entry->d_name;
+        pid_t writer;
+        if (file.compare(0, prefix.size(), prefix) == 0 && pidOfName(file.substr(prefix.size()), writer) &&
+            !processExists(writer))
+            ::unlink((dir + "/" + file).c_str());
+    }
+    ::closedir(d);
 }
 
 bool StateStore::ensureExists(std::string& error)
@@ -219,12 +314,12 @@ bool StateStore::read(San& out, std::string& error)
     // The file is only ever replaced by rename, so a plain read is a whole
     // snapshot; no lock is needed once the file exists.
     std::string text;
-    return ensureExists(error) && readTextFile(path_, text, error) && parse(text, out, error);
+    return ensureExists(error) && readText(text, nullptr, error) && parse(text, out, error);
 }
 
 bool StateStore::read(Snapshot& out, std::string& error)
 {
-    return ensureExists(error) && readWholeFile(path_, out.text, &out.stamp, error) && parse(out.text, out.san, error);
+    return ensureExists(error) && readText(out.text, &out.stamp, error) && parse(out.text, out.san, error);
 }
 
 bool StateStore::update(const std::function<bool(San&)>& change, std::string& error)
@@ -243,7 +338,7 @@ bool StateStore::update(const std::function<bool(San&)>& change, std::string& er
     // Comparing the text, not the stamp, keeps a stale base out even when a
     // new file happens to get the old one's inode, size and time.
     std::string text;
-    if (!readTextFile(path_, text, error))
+    if (!readText(text, nullptr, error))
         return false;
     San san;
     if (base && text == base->text)
@@ -253,7 +348,7 @@ bool StateStore::update(const std::function<bool(San&)>& change, std::string& er
     if (!change(san))
         return true;
     text = scenarioToText(san);
-    if (!writeTextFileAtomically(path_, text, error))
+    if (!writeText(text, error))
         return false;
     std::string rule;
     if (written && validateSan(san, rule)) {

@@ -55,13 +55,20 @@ public:
     std::string stamp() const;
 
 private:
+    std::string name() const; // how messages name the file
     bool ensureExists(std::string& error);
+    bool readText(std::string& text, std::string* stamp, std::string& error) const;
     bool parse(const std::string& text, San& out, std::string& error) const;
+    // These three are called with the lock held.
     bool writeFile(const San& san, std::string& error) const;
+    bool writeText(const std::string& text, std::string& error) const;
+    void removeStaleTemporaries() const;
 
     std::string path_;
 };
 
+// Reads a regular file of at most 256 MiB; anything else is refused with a
+// message naming the file.
 bool readTextFile(const std::string& path, std::string& text, std::string& error);
 bool writeTextFileAtomically(const std::string& path, const std::string& text, std::string& error);
 

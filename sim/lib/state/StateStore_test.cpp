@@ -4,12 +4,14 @@
 #include "model/Generate.h"
 #include "model/Rules.h"
 #include "model/Scenario.h"
+#include "support/ChildProcess.h"
 #include "support/TempDirectory.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -339,4 +341,112 @@ TEST_F(StateStoreTest, KilledWritersNeverLeaveAnUnreadableState)
         ASSERT_TRUE(StateStore(path).read(san, error)) << "round " << round << ": " << error;
         EXPECT_EQ(san.luns.size(), big.luns.size());
     }
+}
+
+namespace {
+
+// Reads the state in a child that an alarm stops, so that a read which would
+// block for ever fails the test instead of hanging it. The child writes the
+// error of a refused read and exits 0; a read that succeeds exits 1.
+ChildOutcome readStateInChild(const std::string& path)
+{
+    return runInChild([&] {
+        alarm(20);
+        San san;
+        std::string error;
+        bool read = StateStore(path).read(san, error);
+        std::fputs(error.c_str(), stdout);
+        std::fflush(stdout);
+        _exit(read ? 1 : 0);
+    });
+}
+
+std::string stateName(const std::string& path)
+{
+    return "simulator state file \"" + path + "\"";
+}
+
+} // namespace
+
+TEST_F(StateStoreTest, AFifoIsNotReadButRefusedAtOnce)
+{
+    ASSERT_EQ(mkdir((dir + "/state").c_str(), 0755), 0);
+    ASSERT_EQ(mkfifo(path.c_str(), 0644), 0);
+    ChildOutcome outcome = readStateInChild(path);
+    ASSERT_TRUE(outcome.exited) << "the read blocked";
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out, stateName(path) + " is not a regular file");
+    std::string error;
+    EXPECT_FALSE(StateStore(path).update([](San&) { return true; }, error));
+    EXPECT_EQ(error, stateName(path) + " is not a regular file");
+}
+
+TEST_F(StateStoreTest, DevicesAndFoldersAreNotStates)
+{
+    ASSERT_EQ(mkdir((dir + "/state").c_str(), 0755), 0);
+    std::filesystem::create_symlink("/dev/null", path);
+    ChildOutcome outcome = readStateInChild(path);
+    ASSERT_TRUE(outcome.exited);
+    EXPECT_EQ(outcome.out, stateName(path) + " is not a regular file");
+    std::filesystem::remove(path);
+    ASSERT_EQ(mkdir(path.c_str(), 0755), 0);
+    San san;
+    std::string error;
+    EXPECT_FALSE(StateStore(path).read(san, error));
+    EXPECT_EQ(error, stateName(path) + " is not a regular file");
+}
+
+TEST_F(StateStoreTest, AStateOfMoreThan256MiBIsRefusedUnread)
+{
+    ASSERT_EQ(mkdir((dir + "/state").c_str(), 0755), 0);
+    const off_t limit = off_t{256} << 20;
+    {
+        std::ofstream{path};
+    }
+    ASSERT_EQ(truncate(path.c_str(), limit + 1), 0); // sparse: costs no disk
+    San san;
+    std::string error;
+    EXPECT_FALSE(StateStore(path).read(san, error));
+    EXPECT_EQ(error, stateName(path) + " is larger than 256 MiB");
+    std::string text;
+    EXPECT_FALSE(readTextFile(path, text, error));
+    EXPECT_EQ(error, "\"" + path + "\" is larger than 256 MiB");
+    // At the limit the file is read, and found not to be a scenario.
+    ASSERT_EQ(truncate(path.c_str(), limit), 0);
+    EXPECT_FALSE(StateStore(path).read(san, error));
+    EXPECT_EQ(error.find("larger"), std::string::npos) << error;
+}
+
+TEST_F(StateStoreTest, TheNextWriterRemovesTemporaryFilesOfDeadWriters)
+{
+    StateStore store(path);
+    San san;
+    std::string error;
+    ASSERT_TRUE(store.read(san, error)) << error;
+    pid_t dead = fork();
+    ASSERT_GE(dead, 0);
+    if (dead == 0)
+        _exit(0);
+    ASSERT_EQ(waitpid(dead, nullptr, 0), dead);
+    const std::string stale = path + ".tmp." + std::to_string(dead);
+    const std::string alive = path + ".tmp.1"; // init never ends
+    const std::string other = path + ".tmp.notapid";
+    for (const std::string& f : {stale, alive, other})
+        std::ofstream(f) << "{ half written";
+
+    // A reader leaves them; the next writer clears what is stale.
+    ASSERT_TRUE(store.read(san, error)) << error;
+    EXPECT_TRUE(std::filesystem::exists(stale));
+    ASSERT_TRUE(store.update(
+        [](San& s) {
+            s.name = "after";
+            return true;
+        },
+        error))
+        << error;
+    EXPECT_FALSE(std::filesystem::exists(stale));
+    EXPECT_TRUE(std::filesystem::exists(alive));
+    EXPECT_TRUE(std::filesystem::exists(other));
+    ASSERT_TRUE(store.read(san, error)) << error;
+    EXPECT_EQ(san.name, "after");
 }
