@@ -1,9 +1,9 @@
 restart adapter asks the adapter to restart, shows the banner, and then
 waits: ten seconds first, then a dot for every question of the adapter,
-three seconds apart, until it answers again. This case takes about twenty
-seconds.
+three seconds apart, until it answers again. The test shim lets the waits
+take no time and moves the simulated clock on by each.
 
-  $ hostcli -zek restart adapter -zek=1 -result
+  $ LD_PRELOAD=$ZEK_SHIM hostcli -zek restart adapter -zek=1 -result
   [ Device 1 on local host ]
   
   ZEK is restarting..... Adapter restarting completed

@@ -40,12 +40,13 @@ Keywords that match nothing are an answer, not a failure.
   
 
 -sync waits until the adapter says the flush is over, with a dot per poll
-(every 3 seconds); the dirty data is then gone.
+(every 3 seconds); the dirty data is then gone. The test shim lets the waits
+take no time and moves the simulated clock on by each.
 
   $ hbasim reset >/dev/null
   $ hbasim show | grep -c "512 MiB dirty"
   1
-  $ hostcli -zek flush cache -zek=0 -fc_target=5006016039A01122 -lun_number=0 -vpgindex=1 -sync
+  $ LD_PRELOAD=$ZEK_SHIM hostcli -zek flush cache -zek=0 -fc_target=5006016039A01122 -lun_number=0 -vpgindex=1 -sync
   [ Device 0 on local host ]
   
   LUN 0  1st VP Group  on Target: 5006-0160-39A0-1122
@@ -58,7 +59,7 @@ Keywords that match nothing are an answer, not a failure.
 Several LUNs with -sync are waited for one after the other.
 
   $ hostcli -zek enable cache -zek=0 -mode=read_write_back -fc_target=21000024FF3C5A10 -lun_number=2 >/dev/null
-  $ hostcli -zek flush cache -zek=0 -fc_target=21000024FF3C5A10 -sync | grep -v "NOT flushed" | grep .
+  $ LD_PRELOAD=$ZEK_SHIM hostcli -zek flush cache -zek=0 -fc_target=21000024FF3C5A10 -sync | grep -v "NOT flushed" | grep .
   [ Device 0 on local host ]
   LUN 2  1st VP Group  on Target: 2100-0024-FF3C-5A10
   .. flushing completed

@@ -30,7 +30,7 @@ that sees what the one before it left.
   $ hostcli -zek show lun -zek=0 -fc_target=21000024FF3C5A10 -lun_number=2 | grep -c -- -lun_start_lba
   0
   [1]
-  $ hostcli -zek flush cache -zek=0 -fc_target=21000024FF3C5A10 -lun_number=2 -sync
+  $ LD_PRELOAD=$ZEK_SHIM hostcli -zek flush cache -zek=0 -fc_target=21000024FF3C5A10 -lun_number=2 -sync
   [ Device 0 on local host ]
   
   LUN 2  1st VP Group  on Target: 2100-0024-FF3C-5A10

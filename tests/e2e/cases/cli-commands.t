@@ -47,6 +47,6 @@ wait time counts down on the console; 0 or an out-of-range value ends at once:
   
   \r        \r (esc) (no-eol)
   $ hostcli -zek wait time -seconds=2592000 -quiet
-  $ hostcli -zek wait time -seconds=1
+  $ LD_PRELOAD=$ZEK_SHIM hostcli -zek wait time -seconds=1
   
   \r        \r00:01\r        \r (esc) (no-eol)
