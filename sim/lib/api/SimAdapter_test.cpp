@@ -6,11 +6,11 @@
 
 #include "api/Ids.h"
 #include "api/SimApi.h"
-#include "core/TempDirectory_test.h"
 #include "model/Codes.h"
 #include "model/DefaultSan.h"
 #include "model/Scenario.h"
 #include "state/StateStore.h"
+#include "support/TempDirectory.h"
 
 #include <gtest/gtest.h>
 
