@@ -1,6 +1,7 @@
 #include "api/Fill.h"
 
 #include "api/Ids.h"
+#include "model/AdapterStorage.h"
 #include "model/Rules.h"
 #include "model/States.h"
 #include "model/View.h"
@@ -345,7 +346,7 @@ void fillDriveInfo(const Adapter& a, const Drive& d, bool withSmart, KDriveInfo&
     copyText(out.revision, sizeof out.revision, d.revision);
     copyText(out.serialNumber, sizeof out.serialNumber, d.serial);
     out.sizeBytes = d.sizeBytes;
-    out.ownerId = a.id.value;
+    out.ownerId = driveOwner(a, d);
     out.driveStatus = d.configured ? KDriveInfo::DRIVE_STATUS_CONFIGURED : KDriveInfo::DRIVE_STATUS_UNCONFIGURED;
     out.isOnline = d.online;
     out.isPcieSsd = d.pcieSsd;

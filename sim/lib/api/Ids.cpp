@@ -161,41 +161,26 @@ const Lun* lunForWwulnId(const San& san, const KWwulnLunID& id)
     return findLunByWwuln(san, std::string(reinterpret_cast<const char*>(name), length));
 }
 
-KDriveID driveId(const Drive& d)
+bool driveNameIsBinary(const Drive& d)
 {
     // A drive named by hexadecimal digits is a binary world-wide name, as the
     // command line reads such a name; any other name is text.
-    KDriveID id;
     std::vector<unsigned char> bytes;
-    bool binary = hexToBytes(d.id, bytes) && !bytes.empty();
-    if (!binary)
-        bytes.assign(d.id.begin(), d.id.end());
-    id.initDriveID(binary ? PBase::WWULN_CODE_SET_BINARY : PBase::WWULN_CODE_SET_TEXT, static_cast<int>(bytes.size()),
-                   bytes.data());
-    return id;
+    return hexToBytes(d.id, bytes) && !bytes.empty();
 }
 
-KWwulnLunID driveSsdId(const Drive& d)
+std::vector<unsigned char> driveNameBytes(const Drive& d)
 {
-    KWwulnLunID id;
-    std::string name = d.serial;
-    id.initWwulnLunID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(name.size()),
-                      reinterpret_cast<unsigned char*>(name.data()));
-    return id;
+    return nameBytes(d.id, driveNameIsBinary(d));
 }
 
-std::string driveName(const KUniqueID& id)
+KDriveID driveId(const Drive& d)
 {
-    // Both drive and SSD identifiers hold a code set, a length, then the name.
-    const unsigned char* data = id.getData();
-    int32_t codeSet, length;
-    std::memcpy(&codeSet, data, sizeof codeSet);
-    std::memcpy(&length, data + 4, sizeof length);
-    if (length < 0 || length > PUniqueID::DATA_SIZE - 8)
-        return {};
-    if (codeSet == PBase::WWULN_CODE_SET_BINARY)
-        return bytesToHex(data + 8, static_cast<size_t>(length));
-    return std::string(reinterpret_cast<const char*>(data + 8), static_cast<size_t>(length));
+    KDriveID id;
+    std::vector<unsigned char> bytes = driveNameBytes(d);
+    id.initDriveID(driveNameIsBinary(d) ? PBase::WWULN_CODE_SET_BINARY : PBase::WWULN_CODE_SET_TEXT,
+                   static_cast<int>(bytes.size()), bytes.data());
+    return id;
 }
 
 KClusterID clusterId(const std::string& id)

@@ -48,9 +48,11 @@ private:
     std::unordered_map<std::string, size_t> lunOf_;
 };
 
+// A drive's name in hexadecimal digits is a binary world-wide name; any other
+// name is text.
+bool driveNameIsBinary(const Drive& d);
+std::vector<unsigned char> driveNameBytes(const Drive& d);
 KDriveID driveId(const Drive& d);
-KWwulnLunID driveSsdId(const Drive& d);
-std::string driveName(const KUniqueID& id); // the name inside a drive or SSD identifier
 
 KClusterID clusterId(const std::string& id);
 std::string clusterName(const KClusterID& id);

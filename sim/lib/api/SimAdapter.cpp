@@ -1,8 +1,10 @@
 #include "api/SimAdapter.h"
 
+#include "api/DriveLuns.h"
 #include "api/Fill.h"
 #include "api/Ids.h"
 #include "api/MHbaReturnBuffer.h"
+#include "model/AdapterStorage.h"
 #include "model/Codes.h"
 #include "model/Rules.h"
 #include "model/Scenario.h"
@@ -93,6 +95,8 @@ int SimAdapter::apply(const char* operation, const Rule& rule, bool keepAlways)
 
 int SimAdapter::applyToLun(const char* operation, const PLunID& lun, const LunRule& rule, bool keepAlways)
 {
+    if (presentsDrive(lun))
+        return refuseDriveLun(operation);
     const San* san = backend_.view();
     if (!san)
         return code::StateFileError;
@@ -109,11 +113,26 @@ int SimAdapter::applyToWwuln(const char* operation, const KWwulnLunID& id, bool 
     if (!san)
         return code::StateFileError;
     const Lun* lun = lunForWwulnId(*san, id);
-    if (!lun)
-        return code::ObjectNotFound;
+    if (!lun) {
+        const Adapter* a = findAdapter(*san, id_);
+        return a && driveForId(*a, id) ? refuseDriveLun(operation) : code::ObjectNotFound;
+    }
     std::string wwuln = lun->wwuln;
     return apply(operation,
                  [&](San& s, long long now) { return rules::disableCacheByWwuln(s, id_, wwuln, viaPrimary, now); });
+}
+
+bool SimAdapter::presentsDrive(const PLunID& lun)
+{
+    const San* san = backend_.view();
+    const Adapter* a = san ? findAdapter(*san, id_) : nullptr;
+    return a && driveAtPath(*san, *a, lun);
+}
+
+int SimAdapter::refuseDriveLun(const char* operation)
+{
+    // The adapter answers first; only then does it look at what is asked.
+    return withAdapter(operation, [](const San&, const Adapter&) { return code::NotSanDataLun; });
 }
 
 // ---- collections --------------------------------------------------------------
@@ -165,34 +184,50 @@ e_MHBA_RETURN SimAdapter::getTargetsAndInitiators(MHbaReturnBuffer* firstError)
         "getTargetsAndInitiators", [&](const San& san, const Adapter& a) { return gatherFabric(san, a); }, firstError));
 }
 
+void SimAdapter::holdTarget(const San& san, const Adapter& a, const Target& t)
+{
+    if (discoveryPorts(san, a, t).empty())
+        return;
+    SimTarget* held = targets_.byName(t.name);
+    if (!held) {
+        auto fresh = std::make_unique<SimTarget>();
+        fresh->name = t.name;
+        fresh->id = targetId(t);
+        held = targets_.add(std::move(fresh));
+    }
+    fillTargetInfo(san, t, a, held->info);
+    KDeviceID device;
+    if (t.protocol == 2)
+        device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(t.iscsiName.c_str()));
+    else
+        device.initFcDeviceID(held->id.getData() + 4, 8);
+    if (!devices_.find(device)) {
+        auto d = std::make_unique<SimDevice>();
+        d->id = device;
+        d->info.init();
+        d->info.isTarget = true;
+        d->info.isInternal = t.internal;
+        d->info.target = held->info;
+        devices_.add(std::move(d));
+    }
+}
+
+const Target* SimAdapter::targetNamed(const San& san, const Adapter& a, const std::string& name)
+{
+    if (const Target* t = findTarget(san, name))
+        return t;
+    const Target* own = presentingTarget(san, a, madeInternal_);
+    return own && own->name == name ? own : nullptr;
+}
+
 int SimAdapter::gatherFabric(const San& san, const Adapter& a)
 {
-    for (const Target& t : san.targets) {
-        if (discoveryPorts(san, a, t).empty())
-            continue;
-        SimTarget* held = targets_.byName(t.name);
-        if (!held) {
-            auto fresh = std::make_unique<SimTarget>();
-            fresh->name = t.name;
-            fresh->id = targetId(t);
-            held = targets_.add(std::move(fresh));
-        }
-        fillTargetInfo(san, t, a, held->info);
-        KDeviceID device;
-        if (t.protocol == 2)
-            device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(t.iscsiName.c_str()));
-        else
-            device.initFcDeviceID(held->id.getData() + 4, 8);
-        if (!devices_.find(device)) {
-            auto d = std::make_unique<SimDevice>();
-            d->id = device;
-            d->info.init();
-            d->info.isTarget = true;
-            d->info.isInternal = t.internal;
-            d->info.target = held->info;
-            devices_.add(std::move(d));
-        }
-    }
+    for (const Target& t : san.targets)
+        holdTarget(san, a, t);
+    // An adapter with drives presents them through its internal target, also
+    // before the SAN holds one for data LUNs.
+    if (const Target* own = presentingTarget(san, a, madeInternal_); own == &madeInternal_)
+        holdTarget(san, a, *own);
     for (const Initiator& i : san.initiators) {
         bool seen = i.seenBy.empty();
         for (const AdapterId& id : i.seenBy)
@@ -243,6 +278,10 @@ void SimAdapter::fillLun(SimLun& lun, const San& san, const Adapter& a, const Vi
 e_MHBA_RETURN SimAdapter::refreshLun(SimLun& lun)
 {
     return asReturn(withAdapter("refreshLunInfo", [&](const San& san, const Adapter& a) {
+        if (const Drive* d = driveAtPath(san, a, lun.id)) {
+            fillDriveLun(lun, san, a, *d);
+            return code::Ok;
+        }
         PathRef ref;
         if (!pathFor(san, lun.id, ref) || !findLun(san, ref))
             return code::LunGone;
@@ -255,9 +294,19 @@ e_MHBA_RETURN SimAdapter::refreshLun(SimLun& lun)
     }));
 }
 
+SimLun* SimAdapter::holdLun(const PLunID& id)
+{
+    if (SimLun* held = static_cast<SimLun*>(luns_.find(id)))
+        return held;
+    auto fresh = std::make_unique<SimLun>();
+    fresh->id = id;
+    fresh->refresh = [this](SimLun& l) { return refreshLun(l); };
+    return luns_.add(std::move(fresh));
+}
+
 int SimAdapter::gatherLunsOf(const San& san, const Adapter& a, SimTarget& target)
 {
-    const Target* t = findTarget(san, target.name);
+    const Target* t = targetNamed(san, a, target.name);
     if (!t)
         return code::ObjectNotFound;
     std::vector<VisiblePath> paths = visiblePaths(san, a, *t);
@@ -265,14 +314,7 @@ int SimAdapter::gatherLunsOf(const San& san, const Adapter& a, SimTarget& target
     for (const VisiblePath& p : paths) {
         PLunID id = lunId(target.id, *p.path);
         target.luns.addUnique(id);
-        SimLun* held = static_cast<SimLun*>(luns_.find(id));
-        if (!held) {
-            auto fresh = std::make_unique<SimLun>();
-            fresh->id = id;
-            fresh->refresh = [this](SimLun& l) { return refreshLun(l); };
-            held = luns_.add(std::move(fresh));
-        }
-        fillLun(*held, san, a, p);
+        fillLun(*holdLun(id), san, a, p);
         SimLunPathEntry* entry = static_cast<SimLunPathEntry*>(pathTable_.find(id));
         if (!entry) {
             auto fresh = std::make_unique<SimLunPathEntry>();
@@ -282,7 +324,24 @@ int SimAdapter::gatherLunsOf(const San& san, const Adapter& a, SimTarget& target
         // The path table tells every way this adapter reaches the LUN.
         entry->text = pathTexts.tableText(*p.lun);
     }
+    if (isInternalTargetOf(*t, a) && adapterSeesTarget(san, a, *t))
+        gatherDriveLuns(san, a, target);
     return code::Ok;
+}
+
+void SimAdapter::gatherDriveLuns(const San& san, const Adapter& a, SimTarget& target)
+{
+    for (const DriveLunPath& p : driveLunPaths(san, a)) {
+        target.luns.addUnique(p.id);
+        fillDriveLun(*holdLun(p.id), san, a, *p.drive);
+    }
+}
+
+void SimAdapter::fillDriveLun(SimLun& lun, const San& san, const Adapter& a, const Drive& d)
+{
+    fillDriveLunInfo(san, a, d, lun.info);
+    lun.changes = backend_.changeCount();
+    lun.filledAt = *lun.changes;
 }
 
 e_MHBA_RETURN SimAdapter::getLunsForSpecificTarget(HTarget* target, MHbaReturnBuffer* firstError)
@@ -314,9 +373,14 @@ e_MHBA_RETURN SimAdapter::getDrivesWithErrorDetails(MHbaReturnBuffer* firstError
     return asReturn(withAdapter(
         "getDrivesWithErrorDetails",
         [&](const San&, const Adapter& a) {
-            auto pool = std::make_unique<SimDrivePool>();
-            unsigned char name[] = "CachePool";
-            pool->id.initDrivePoolID(name);
+            // Pools are named by the state of their drives: the members of
+            // the cache pool, then the drives free for it.
+            auto configured = std::make_unique<SimDrivePool>();
+            auto unconfigured = std::make_unique<SimDrivePool>();
+            unsigned char configuredName[] = "Configured";
+            unsigned char unconfiguredName[] = "Unconfigured";
+            configured->id.initDrivePoolID(configuredName);
+            unconfigured->id.initDrivePoolID(unconfiguredName);
             for (const Drive& d : a.drives) {
                 KDriveID id = driveId(d);
                 SimDrive* held = static_cast<SimDrive*>(drives_.find(id));
@@ -326,20 +390,26 @@ e_MHBA_RETURN SimAdapter::getDrivesWithErrorDetails(MHbaReturnBuffer* firstError
                     held = drives_.add(std::move(fresh));
                 }
                 fillDriveInfo(a, d, false, held->info);
-                if (d.configured)
-                    pool->drives.ids.push_back(id);
+                (inCachePool(a, d) ? configured : unconfigured)->drives.ids.push_back(id);
             }
             pools_.clear();
-            if (!pool->drives.ids.empty())
-                pools_.add(std::move(pool));
+            for (auto* pool : {&configured, &unconfigured})
+                if (!(*pool)->drives.ids.empty())
+                    pools_.add(std::move(*pool));
             return code::Ok;
         },
         firstError));
 }
 
-int SimAdapter::changePool(const char* operation, const KUniqueID& drive, bool add)
+int SimAdapter::changePool(const char* operation, const KUniqueID& drive, bool bySsdId, bool add)
 {
-    std::string name = driveName(drive);
+    const San* san = backend_.view();
+    if (!san)
+        return code::StateFileError;
+    const Adapter* a = findAdapter(*san, id_);
+    const Drive* named = !a ? nullptr : bySsdId ? driveForSsdId(*a, drive) : driveForId(*a, drive);
+    // An unknown drive is told only by an adapter that answers.
+    std::string name = named ? named->id : std::string();
     return apply(operation, [&](San& s, long long now) {
         return add ? rules::addDriveToPool(s, id_, name, now) : rules::removeDriveFromPool(s, id_, name, now);
     });
@@ -347,22 +417,22 @@ int SimAdapter::changePool(const char* operation, const KUniqueID& drive, bool a
 
 e_MHBA_RETURN SimAdapter::addDriveToPoolBySsdId(const KWwulnLunID& ssdId)
 {
-    return asReturn(changePool("addDriveToPoolBySsdId", ssdId, true));
+    return asReturn(changePool("addDriveToPoolBySsdId", ssdId, true, true));
 }
 
 e_MHBA_RETURN SimAdapter::addDriveToPool(const KDriveID& drive)
 {
-    return asReturn(changePool("addDriveToPool", drive, true));
+    return asReturn(changePool("addDriveToPool", drive, false, true));
 }
 
 e_MHBA_RETURN SimAdapter::removeDriveFromPool(const KDriveID& drive)
 {
-    return asReturn(changePool("removeDriveFromPool", drive, false));
+    return asReturn(changePool("removeDriveFromPool", drive, false, false));
 }
 
 e_MHBA_RETURN SimAdapter::removeDriveFromPoolBySsdId(const KWwulnLunID& ssdId)
 {
-    return asReturn(changePool("removeDriveFromPoolBySsdId", ssdId, false));
+    return asReturn(changePool("removeDriveFromPoolBySsdId", ssdId, true, false));
 }
 
 e_MHBA_RETURN SimAdapter::getSmartDriveInfo(const KDriveID& drive)
@@ -370,16 +440,14 @@ e_MHBA_RETURN SimAdapter::getSmartDriveInfo(const KDriveID& drive)
     SimDrive* held = static_cast<SimDrive*>(drives_.find(drive));
     if (!held)
         return MHBA_E_OBJECT_NOT_FOUND;
-    std::string name = driveName(drive);
     return asReturn(withAdapter("getSmartDriveInfo", [&](const San&, const Adapter& a) {
-        for (const Drive& d : a.drives)
-            if (strcasecmp(d.id.c_str(), name.c_str()) == 0) {
-                if (!d.online)
-                    return code::AdapterNotResponding;
-                fillDriveInfo(a, d, true, held->info);
-                return code::Ok;
-            }
-        return code::ObjectNotFound;
+        const Drive* d = driveForId(a, drive);
+        if (!d)
+            return code::ObjectNotFound;
+        if (!d->online)
+            return code::DriveNotUsable;
+        fillDriveInfo(a, *d, true, held->info);
+        return code::Ok;
     }));
 }
 
@@ -820,6 +888,8 @@ e_MHBA_RETURN SimAdapter::invalidateCache(const PLunID& lun, uint64_t startLba, 
 e_MHBA_RETURN SimAdapter::getReservations(const PLunID& lun, KLunReservationInfo& out)
 {
     return asReturn(withAdapter("getReservations", [&](const San& san, const Adapter& a) {
+        if (driveAtPath(san, a, lun))
+            return code::NotSanDataLun;
         PathRef p;
         if (!pathFor(san, lun, p) || !adapterSeesPath(san, a, p))
             return code::ObjectNotFound;
@@ -1005,28 +1075,43 @@ void SimLunNameIndex::add(const PLunsForOneNameID& key, const PLunID& id)
     list->addUnique(id);
 }
 
+namespace {
+
+// The key under which a LUN is found by a name of this type; false when the
+// LUN has no such name.
+bool nameKeyOf(const Lun& lun, PBase::LUN_NAME_TYPE type, PLunsForOneNameID& key)
+{
+    if (type == PBase::LUN_NAME_SERIAL_NUMBER) {
+        if (lun.page80.empty())
+            return false;
+        key.initLunsForOneNameID(type, lun.page80);
+    } else if (lun.codeSet == 1) {
+        std::vector<unsigned char> bytes = wwulnBytes(lun);
+        key.initLunsForOneNameIDFromBinaryData(type, bytes.data(), static_cast<int>(bytes.size()));
+    } else {
+        key.initLunsForOneNameID(type, lun.wwuln);
+    }
+    return true;
+}
+
+} // namespace
+
 e_MHBA_RETURN SimLunNameIndex::scan(PBase::LUN_NAME_TYPE type, const PTargetID* target)
 {
     if (type != PBase::LUN_NAME_WWULN && type != PBase::LUN_NAME_SERIAL_NUMBER)
         return MHBA_E_NOT_SUPPORTED;
     return asReturn(adapter_.withAdapter(target ? "scanTarget" : "scanAll", [&](const San& san, const Adapter& a) {
+        PLunsForOneNameID key;
         for (const VisiblePath& p : visiblePaths(san, a)) {
             PLunID id = lunId(*p.target, *p.path);
-            if (target && !(id.targetID() == *target))
-                continue;
-            PLunsForOneNameID key;
-            if (type == PBase::LUN_NAME_SERIAL_NUMBER) {
-                if (p.lun->page80.empty())
-                    continue;
-                key.initLunsForOneNameID(type, p.lun->page80);
-            } else if (p.lun->codeSet == 1) {
-                std::vector<unsigned char> bytes = wwulnBytes(*p.lun);
-                key.initLunsForOneNameIDFromBinaryData(type, bytes.data(), static_cast<int>(bytes.size()));
-            } else {
-                key.initLunsForOneNameID(type, p.lun->wwuln);
-            }
-            add(key, id);
+            if ((!target || id.targetID() == *target) && nameKeyOf(*p.lun, type, key))
+                add(key, id);
         }
+        // The adapter's drives are named like LUNs, by their world-wide name
+        // and their serial number.
+        for (const DriveLunPath& p : driveLunPaths(san, a))
+            if ((!target || p.id.targetID() == *target) && nameKeyOf(driveLun(*p.drive), type, key))
+                add(key, p.id);
         if (target)
             scannedTargets_.emplace_back(type, *target);
         else

@@ -157,10 +157,21 @@ private:
     int applyToLun(const char* operation, const PLunID& lun, const LunRule& rule, bool keepAlways = false);
     int applyToWwuln(const char* operation, const KWwulnLunID& id, bool viaPrimary);
     int writeFile(const std::string& file, const std::string& text);
-    int changePool(const char* operation, const KUniqueID& drive, bool add);
+    int changePool(const char* operation, const KUniqueID& drive, bool bySsdId, bool add);
     void fillLun(SimLun& lun, const San& san, const Adapter& a, const VisiblePath& p);
     e_MHBA_RETURN refreshLun(SimLun& lun);
     int gatherLunsOf(const San& san, const Adapter& a, SimTarget& target);
+    // The target of that name as this adapter sees it, its internal target
+    // included before the SAN holds one.
+    const Target* targetNamed(const San& san, const Adapter& a, const std::string& name);
+    void holdTarget(const San& san, const Adapter& a, const Target& t);
+    SimLun* holdLun(const PLunID& id);
+    void gatherDriveLuns(const San& san, const Adapter& a, SimTarget& target);
+    void fillDriveLun(SimLun& lun, const San& san, const Adapter& a, const Drive& d);
+    // True when the path is one of this adapter's drives, which no LUN or
+    // cache operation may touch.
+    bool presentsDrive(const PLunID& lun);
+    int refuseDriveLun(const char* operation);
     std::string capture(const San& san, const Adapter& a) const;
     // The adapter reports what it sees on the fabric when it is first asked,
     // as a library that found it would have gathered that already.
@@ -184,6 +195,7 @@ private:
     std::unique_ptr<SimLogView> logView_;
     std::unique_ptr<SimLogView> fileView_;
     bool discovered_ = false;
+    Target madeInternal_; // the internal target while the SAN holds none
 };
 
 inline e_MHBA_RETURN asReturn(int code)

@@ -231,7 +231,7 @@ TEST_F(SimApiTest, TargetsFollowPortsOfDiscovery)
     EXPECT_TRUE(b->getTargetInfo()->discoveredOnPort2);
     HIsaAdapter* dev1 = adapter(1);
     ASSERT_EQ(dev1->getTargetsAndInitiators(&first), MHBA_S_OK);
-    EXPECT_EQ(dev1->getTargets()->items.size(), 4u);
+    EXPECT_EQ(dev1->getTargets()->items.size(), 5u); // its own internal one too, as it has drives
     EXPECT_FALSE(dev1->getDevices()->items.empty());
     EXPECT_FALSE(dev1->getInitiators()->items.empty());
 }
@@ -509,8 +509,11 @@ TEST_F(SimApiTest, DrivesJoinAndLeaveThePool)
     MHbaReturnBuffer first;
     ASSERT_EQ(dev0->getDrivesWithErrorDetails(&first), MHBA_S_OK);
     ASSERT_EQ(dev0->getDrives()->items.size(), 4u);
-    ASSERT_EQ(dev0->getDrivePools()->items.size(), 1u);
+    ASSERT_EQ(dev0->getDrivePools()->items.size(), 2u);
+    EXPECT_EQ(dev0->getDrivePools()->items[0]->getDrivePoolId()->displayText(), "Configured");
     EXPECT_EQ(dev0->getDrivePools()->items[0]->getDriveIds()->count(), 3u);
+    EXPECT_EQ(dev0->getDrivePools()->items[1]->getDrivePoolId()->displayText(), "Unconfigured");
+    EXPECT_EQ(dev0->getDrivePools()->items[1]->getDriveIds()->count(), 1u);
 
     // The free drive, named as a user types a world-wide name.
     KDriveID free = *dev0->getDrives()->items[3]->getDriveId();
@@ -522,7 +525,7 @@ TEST_F(SimApiTest, DrivesJoinAndLeaveThePool)
     typed.initDriveID(PBase::WWULN_CODE_SET_BINARY, static_cast<int>(count), wwn);
     EXPECT_TRUE(dev0->getDrives()->contains(typed));
     ASSERT_EQ(dev0->addDriveToPool(typed), MHBA_S_OK);
-    EXPECT_EQ(dev0->addDriveToPool(typed), MHBA_E_INVALID_ARG);
+    EXPECT_EQ(dev0->addDriveToPool(typed), 1051) << "already in the pool";
     EXPECT_EQ(dev0->getSmartDriveInfo(typed), MHBA_S_OK);
     EXPECT_EQ(dev0->getDrives()->find(typed)->getDriveInfo()->smartInfo.attributeCount, 7u);
 

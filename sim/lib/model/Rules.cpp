@@ -1,6 +1,7 @@
 #include "model/Rules.h"
 
 #include "model/AdapterLog.h"
+#include "model/AdapterStorage.h"
 #include "model/Base64.h"
 #include "model/Codes.h"
 #include "model/Scenario.h"
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <strings.h>
 
 namespace sim::rules {
 
@@ -199,46 +199,13 @@ bool isOwner(const Lun& lun, u64 adapter)
     return lun.local && lun.localInfo.owner.value == adapter;
 }
 
-// A drive name as a user types it: the world-wide name in either case, with
-// or without the separators it is shown with.
-std::string plainDriveName(const std::string& name)
-{
-    std::string plain;
-    for (char c : name)
-        if (c != '-' && c != ':' && c != ' ')
-            plain += c;
-    return plain;
-}
-
-Drive* findDrive(Adapter& a, const std::string& id)
-{
-    std::string wanted = plainDriveName(id);
-    for (Drive& d : a.drives)
-        if (strcasecmp(plainDriveName(d.id).c_str(), wanted.c_str()) == 0 || d.serial == id)
-            return &d;
-    return nullptr;
-}
-
-std::string internalTargetName(u64 adapter)
-{
-    return "internal-" + adapterIdText(adapter);
-}
-
 // Data LUNs of an adapter are presented through its own internal target.
 std::string ensureInternalTarget(San& san, const Adapter& a)
 {
-    for (const Target& t : san.targets)
-        if (t.internal && t.seenBy.size() == 1 && t.seenBy[0] == a.id)
-            return t.name;
-    Target t;
-    t.name = internalTargetName(a.id.value);
-    t.internal = true;
-    t.seenBy = {a.id};
-    t.wwpn = a.ports.empty() ? adapterIdText(a.id.value) : a.ports[0].wwpn;
-    t.wwnn = a.ports.empty() ? adapterIdText(a.id.value) : a.ports[0].wwnn;
-    t.ports = {1, 2};
-    san.targets.push_back(t);
-    return t.name;
+    if (const Target* held = findInternalTarget(san, a))
+        return held->name;
+    san.targets.push_back(makeInternalTarget(a));
+    return san.targets.back().name;
 }
 
 u32 nextFreeLunNumber(const San& san, const std::string& target)
@@ -593,8 +560,12 @@ int addDriveToPool(San& san, u64 adapter, const std::string& drive, long long no
         Drive* d = findDrive(a, drive);
         if (!d)
             return code::ObjectNotFound;
-        if (d->configured || !d->online || d->securityLocked)
-            return code::InvalidArgument;
+        if (!ownsDrive(a, *d))
+            return code::DriveOfAnotherAdapter;
+        if (d->configured)
+            return code::DriveAlreadyInPool;
+        if (!d->online || d->securityLocked)
+            return code::DriveNotUsable;
         d->configured = true;
         return code::Ok;
     });
@@ -606,8 +577,11 @@ int removeDriveFromPool(San& san, u64 adapter, const std::string& drive, long lo
         Drive* d = findDrive(a, drive);
         if (!d)
             return code::ObjectNotFound;
+        if (!ownsDrive(a, *d))
+            return code::DriveOfAnotherAdapter;
         if (!d->configured)
-            return code::InvalidArgument;
+            return code::DriveNotInPool;
+        // The pool and the data LUNs must still fit on the drives that stay.
         u64 needed = a.cachePoolBytes + dataLunBytes(san, adapter);
         if (configuredBytes(a) - (d->online ? d->sizeBytes : 0) < needed)
             return code::PoolSizeOutOfRange;
@@ -878,9 +852,17 @@ int runNvdimmCommand(San& san, u64 adapter, int command, long long now)
 int restoreDriveConfig(San& san, u64 adapter, u64 owner, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
-        if (!findAdapter(san, owner))
+        int adopted = 0;
+        for (Drive& d : a.drives)
+            if (!ownsDrive(a, d) && d.owner.value == owner) {
+                d.owner = AdapterId{};
+                ++adopted;
+            }
+        if (adopted == 0)
             return code::ObjectNotFound;
-        appendLog(a, now, 5, "ssd", "Drive configuration restored from owner " + adapterIdText(owner));
+        appendLog(a, now, 5, "ssd",
+                  "Drive configuration of " + std::to_string(adopted) + " drives restored from owner " +
+                      adapterIdText(owner));
         return code::Ok;
     });
 }

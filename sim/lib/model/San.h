@@ -86,6 +86,7 @@ struct Drive {
     std::string serial;
     u64 sizeBytes = 0;
     bool configured = false; // member of the pool
+    AdapterId owner;         // whose configuration it carries; 0 the adapter that holds it
     bool online = true;
     bool pcieSsd = false;
     bool securityLocked = false;

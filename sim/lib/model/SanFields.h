@@ -19,8 +19,8 @@
         executionThrottle, connectionMode, connectionOption, fcipLink, beacon, sfp
 #define SIM_FIELDS_SmartAttribute id, name, value, worst, threshold, raw, displayType
 #define SIM_FIELDS_Drive                                                                                               \
-    id, vendor, product, revision, serial, sizeBytes, configured, online, pcieSsd, securityLocked, identityConflict,   \
-        external, smartStatus, smart
+    id, vendor, product, revision, serial, sizeBytes, configured, owner, online, pcieSsd, securityLocked,              \
+        identityConflict, external, smartStatus, smart
 #define SIM_FIELDS_LogRecord time, severity, source, message
 #define SIM_FIELDS_Health                                                                                              \
     temperatureFront, temperatureRear, temperatureCpu, temperatureNvdimm, temperatureFcChip, driversLoadedMask,        \

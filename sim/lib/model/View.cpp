@@ -1,5 +1,7 @@
 #include "model/View.h"
 
+#include "model/AdapterStorage.h"
+
 #include <algorithm>
 #include <string_view>
 #include <strings.h>
@@ -243,7 +245,7 @@ u64 configuredBytes(const Adapter& a)
 {
     u64 sum = 0;
     for (const Drive& d : a.drives)
-        if (d.configured && d.online)
+        if (inCachePool(a, d) && d.online)
             sum += d.sizeBytes;
     return sum;
 }

@@ -1,8 +1,10 @@
 Writing dirty cache data back to the LUNs.
 
 Without LUN keywords every LUN of the adapter is treated: controller and
-sequential LUNs say their type, uncached data LUNs say so, the peer's LUN
-gets the adapter's refusal in its line, and the cached LUN starts flushing.
+sequential LUNs say their type, uncached data LUNs say so (the adapter's
+own drives among them, which it presents as LUNs 256 and up of its internal
+target), the peer's LUN gets the adapter's refusal in its line, and the
+cached LUN starts flushing.
 The command itself succeeds.
 
   $ hostcli -zek flush cache -zek=0
@@ -29,6 +31,14 @@ The command itself succeeds.
   LUN 0  1st VP Group  on Target: iqn.2004-04.com.simstor:vault.tgt01 NOT flushed, (SAN Data LUN is not cached)
   
   LUN 0  1st VP Group  on Target: 2100-001B-32A1-0C00 NOT flushed, (SAN Data LUN is not cached)
+  
+  LUN 256  1st VP Group  on Target: 2100-001B-32A1-0C00 NOT flushed, (SAN Data LUN is not cached)
+  
+  LUN 257  1st VP Group  on Target: 2100-001B-32A1-0C00 NOT flushed, (SAN Data LUN is not cached)
+  
+  LUN 258  1st VP Group  on Target: 2100-001B-32A1-0C00 NOT flushed, (SAN Data LUN is not cached)
+  
+  LUN 259  1st VP Group  on Target: 2100-001B-32A1-0C00 NOT flushed, (SAN Data LUN is not cached)
   
 
 Keywords that match nothing are an answer, not a failure.
