@@ -6,7 +6,6 @@
 namespace {
 
 constexpr uint32_t kHeaderBytes = 8;
-constexpr size_t kCountOffset = 4;
 
 } // namespace
 

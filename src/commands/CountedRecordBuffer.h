@@ -25,10 +25,17 @@ public:
         }
     }
 
+    // Makes the header state `stated` records whatever the block carries, as
+    // the show commands of one object do: they carry that one and state how
+    // many the adapter holds.
+    void stateCount(uint32_t stated) { storeInt32(kCountOffset, stated); }
+
     void const* data() const { return bytes.data(); }
     unsigned long size() const { return bytes.size(); }
 
 private:
+    static constexpr size_t kCountOffset = 4;
+
     // The size word of the next image, which is then appended; the count grows.
     void beginImage(unsigned int imageSize);
     void appendInt32(uint32_t value);
@@ -42,18 +49,36 @@ private:
 // and the output fails.
 void writeResultWithoutData(CommandOutput& out);
 
-// Writes the records as a counted buffer as the command's result record. A
-// buffer that cannot be allocated gives the result code 55 with no data.
-// True while the output is whole.
-template <typename Record>
-bool writeCountedResult(CommandOutput& out, int code, std::vector<Record> const& records)
+// Builds a counted buffer with `fill` and writes it as the command's result
+// record. A buffer that cannot be allocated gives the result code 55 with no
+// data. True while the output is whole.
+template <typename Fill>
+bool writeBuiltResult(CommandOutput& out, int code, Fill const& fill)
 {
     try {
         CountedRecordBuffer buffer;
-        buffer.appendAll(records);
+        fill(buffer);
         return out.result(code, buffer.data(), buffer.size());
     } catch (std::bad_alloc const&) {
         writeResultWithoutData(out);
         return false;
     }
+}
+
+// Writes the records as a counted buffer as the command's result record.
+template <typename Record>
+bool writeCountedResult(CommandOutput& out, int code, std::vector<Record> const& records)
+{
+    return writeBuiltResult(out, code, [&](CountedRecordBuffer& buffer) { buffer.appendAll(records); });
+}
+
+// Writes one record as the command's result record, in a block whose header
+// states `stated` records.
+template <typename Record>
+bool writeOneOfCountedResult(CommandOutput& out, int code, Record const& record, uint32_t stated)
+{
+    return writeBuiltResult(out, code, [&](CountedRecordBuffer& buffer) {
+        buffer.appendAll(std::vector<Record>{record});
+        buffer.stateCount(stated);
+    });
 }

@@ -1,8 +1,9 @@
 #include "commands/storage/CmdDriveAdd.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/DrivePoolChange.h"
 
 namespace {
 
@@ -32,5 +33,7 @@ CmdDriveAdd::CmdDriveAdd()
 
 int CmdDriveAdd::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    DrivePoolChange const change{&HIsaAdapter::addDriveToPool, &HIsaAdapter::addDriveToPoolBySsdId,
+                                 "Drive successfully added."};
+    return changeDrivePool(*this, change, err);
 }

@@ -2,7 +2,11 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include <cstdlib>
+
+#include "api/HIsaAdapter.h"
+#include "commands/CommandPattern.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -28,7 +32,32 @@ CmdDriveConfigRestore::CmdDriveConfigRestore()
     helpExamples = ugCommandPrompt() + "-zek=0 -owner=2000001B32A1B2C3";
 }
 
+namespace {
+
+// The code for an -owner value that is not a hexadecimal number; it comes
+// without words of its own.
+constexpr int kOwnerNotHexadecimal = 169;
+
+} // namespace
+
 int CmdDriveConfigRestore::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    err.clear();
+    TokenModifierString const* const owner = findModifier(ModifierId::MODIFIER_OWNER, err);
+    if (!owner)
+        return ZEKCLI_PARSE_FAIL;
+    char const* const text = owner->value.c_str();
+    char* end = nullptr;
+    unsigned long long const ownerId = std::strtoull(text, &end, 16);
+    if (*end != '\0')
+        return kOwnerNotHexadecimal;
+
+    if (int const rc = addressed.adapter->restoreDriveConfig(ownerId))
+        return rc;
+    CommandReport report;
+    report.text = "Configuration restored successfully\n";
+    return finishCommand(*this, addressed.adapter, report, err);
 }

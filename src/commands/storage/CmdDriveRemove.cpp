@@ -1,8 +1,9 @@
 #include "commands/storage/CmdDriveRemove.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/DrivePoolChange.h"
 
 namespace {
 
@@ -32,5 +33,7 @@ CmdDriveRemove::CmdDriveRemove()
 
 int CmdDriveRemove::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    DrivePoolChange const change{&HIsaAdapter::removeDriveFromPool, &HIsaAdapter::removeDriveFromPoolBySsdId,
+                                 "Drive successfully removed."};
+    return changeDrivePool(*this, change, err);
 }

@@ -1,8 +1,9 @@
 #include "commands/storage/CmdPoolRemove.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
 
 namespace {
 
@@ -25,5 +26,13 @@ CmdPoolRemove::CmdPoolRemove()
 
 int CmdPoolRemove::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    if (int const rc = addressed.adapter->removePool())
+        return rc;
+    CommandReport report;
+    report.text = "Storage cache pool has been removed successfully.\n";
+    report.writeResult = false;
+    return finishCommand(*this, addressed.adapter, report, err);
 }

@@ -2,7 +2,13 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include <algorithm>
+#include <cstdint>
+
+#include "api/HIsaAdapter.h"
+#include "commands/CommandPattern.h"
+#include "core/ZekcliReturn.h"
+#include "records/KPoolInfo.h"
 
 namespace {
 
@@ -27,7 +33,49 @@ CmdPoolSet::CmdPoolSet()
     helpExamples = ugCommandPrompt() + "-zek=0 -cache=200" + ugCommandPrompt() + "-zek=0 -cache=512GB";
 }
 
+namespace {
+
+// The adapter refuses a pool size out of its range with this code.
+constexpr int kPoolSizeOutOfRange = 156;
+
+// The library takes megabytes in 32 bits. A larger request is sent as the
+// largest, which the adapter refuses with its range, rather than wrapped
+// round into a small pool that it might accept.
+uint32_t megabytesToRequest(unsigned long long bytes)
+{
+    return static_cast<uint32_t>(std::min<unsigned long long>(bytes >> 20, UINT32_MAX));
+}
+
+std::string rangeText(KPoolInfo const& info)
+{
+    std::string const largest = std::to_string(info.totalSsdStorage >> 30);
+    return "Specified cache size must be in range 4GB to " + largest + " ( -cache=" + largest + ")";
+}
+
+} // namespace
+
 int CmdPoolSet::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    HIsaAdapter& adapter = *addressed.adapter;
+    unsigned long long bytes = 0;
+    bool found = false;
+    if (!getByteSizeFromCommandLineModifierIfFound(ModifierId::MODIFIER_CACHE, bytes, found, err))
+        return ZEKCLI_PARSE_FAIL;
+
+    int const rc = adapter.setPoolSize(megabytesToRequest(bytes));
+    if (rc == kPoolSizeOutOfRange) {
+        KPoolInfo info;
+        if (int const infoRc = adapter.getPoolInfo(info))
+            return infoRc;
+        err = rangeText(info);
+        return rc;
+    }
+    if (rc != 0)
+        return rc;
+    CommandReport report;
+    report.text = "Pool usage successfully changed.";
+    return finishCommand(*this, &adapter, report, err);
 }

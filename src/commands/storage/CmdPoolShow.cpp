@@ -1,8 +1,11 @@
 #include "commands/storage/CmdPoolShow.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "records/KIsaAdapterInfo.h"
+#include "records/KPoolInfo.h"
 
 namespace {
 
@@ -26,5 +29,18 @@ CmdPoolShow::CmdPoolShow()
 
 int CmdPoolShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    HIsaAdapter& adapter = *addressed.adapter;
+    KPoolInfo info;
+    if (int const rc = adapter.getPoolInfo(info))
+        return rc;
+    KIsaAdapterInfo const* const described = adapter.getCachedAdapterInfo();
+    bool const showDataLuns = described && described->isCapable(KIsaAdapterInfo::LOCAL_SSD_DATA_LUN);
+    CommandReport report;
+    report.text = info.displayText(showDataLuns);
+    report.data = &info;
+    report.size = sizeof info;
+    return finishCommand(*this, &adapter, report, err);
 }
