@@ -1,5 +1,6 @@
 #include "Summary.h"
 
+#include "model/AdapterStorage.h"
 #include "model/Scenario.h"
 #include "model/View.h"
 
@@ -78,12 +79,15 @@ std::string adapters(const San& san, long long now)
         for (size_t i = 0; i < a.ports.size(); ++i)
             ports += (i ? ", " : "") + std::string("FC") + std::to_string(i + 1) +
                 (a.ports[i].enabled ? (a.ports[i].online ? " up" : " down") : " disabled");
-        int configured = 0;
-        for (const Drive& d : a.drives)
-            configured += d.configured;
+        int configured = 0, foreign = 0;
+        for (const Drive& d : a.drives) {
+            configured += inCachePool(a, d);
+            foreign += !ownsDrive(a, d);
+        }
+        std::string foreignText = foreign ? ", " + std::to_string(foreign) + " of another adapter" : "";
         text += "      ports: " + ports + "; drives: " + std::to_string(a.drives.size()) + " (" +
-            std::to_string(configured) + " in pool); cache pool " + sizeText(a.cachePoolBytes) + "; log " +
-            std::to_string(a.log.size()) + " records\n";
+            std::to_string(configured) + " in pool" + foreignText + "); cache pool " + sizeText(a.cachePoolBytes) +
+            "; log " + std::to_string(a.log.size()) + " records\n";
     }
     return text;
 }
