@@ -49,3 +49,14 @@ TEST(CountedRecordBuffer, EachImageFollowsItsSizeThatCountsItself)
     EXPECT_EQ(0, std::memcmp(bytes + 12, recordImage(luns[0]).data(), sizeof(PLunID)));
     EXPECT_EQ(0, std::memcmp(bytes + 12 + 580, recordImage(luns[1]).data(), sizeof(PLunID)));
 }
+
+TEST(CountedRecordBuffer, ACountStatedForOneRecordAmongManyStaysAsStated)
+{
+    CountedRecordBuffer buffer;
+    buffer.appendAll(std::vector<PLunID>{lunOnTarget("5006-0160-3BE0-1234", 2)});
+    buffer.stateCount(6);
+    ASSERT_EQ(8u + 4u + sizeof(PLunID), buffer.size());
+    EXPECT_EQ(8u, wordAt(buffer, 0));
+    EXPECT_EQ(6u, wordAt(buffer, 4));
+    EXPECT_EQ(4u + sizeof(PLunID), wordAt(buffer, 8));
+}

@@ -11,6 +11,7 @@
 #include "records/KLibraryVersionInfo.h"
 #include "records/KLogEntry.h"
 #include "records/KLunInfo.h"
+#include "records/KLunReservationInfo.h"
 #include "records/KPoolInfo.h"
 #include "records/KTargetInfo.h"
 
@@ -563,4 +564,66 @@ TEST_F(SimApiTest, WhatTheAdapterSeesIsThereWhenFirstAskedFor)
     EXPECT_NE(dev1->getLuns()->find(lunIdOn(kArrayB, 2)), nullptr);
     dev1->clearTargets();
     EXPECT_TRUE(dev1->getTargets()->items.empty()) << "after a clear only a gathering fills it again";
+}
+
+TEST_F(SimApiTest, DrivesAreLunsOfTheInternalTargetThatNoLunOperationTouches)
+{
+    HIsaAdapter* dev1 = adapter(1);
+    ASSERT_NE(dev1, nullptr);
+    const std::string internal = "2100-001B-32A1-0D00"; // made for its drives: it holds no data LUN
+    KLunInfo* drive = lun(dev1, internal, 257);
+    ASSERT_NE(drive, nullptr);
+    EXPECT_TRUE(drive->isLunState(28));
+    EXPECT_EQ(bytesToHex(drive->ui8Wwuln, drive->ui32WwulnLength), "5000C532A10D0001");
+    EXPECT_EQ(lun(dev1, internal, 261), nullptr) << "four drives, four LUNs";
+
+    PLunID path = lunIdOn(internal, 257);
+    HLun* held = dev1->getLuns()->find(path);
+    ASSERT_NE(held, nullptr);
+    held->getLunInfo()->bValid = false;
+    EXPECT_EQ(held->refreshLunInfo(), MHBA_S_OK);
+    EXPECT_TRUE(held->getLunInfo()->isLunInfoValid());
+
+    EXPECT_EQ(dev1->enableCache(path, 1, 1, 0, 0, 0, 0, 0, 0), MHBA_E_LUN_NOT_APPLICABLE);
+    EXPECT_EQ(dev1->lockCache(path, 0, 8), MHBA_E_LUN_NOT_APPLICABLE);
+    std::string text;
+    EXPECT_EQ(dev1->removeLun(path, text), MHBA_E_LUN_NOT_APPLICABLE);
+    KLunReservationInfo reservation;
+    EXPECT_EQ(dev1->getReservations(path, reservation), MHBA_E_LUN_NOT_APPLICABLE);
+    KWwulnLunID wwuln;
+    unsigned char bytes[] = {0x50, 0x00, 0xC5, 0x32, 0xA1, 0x0D, 0x00, 0x01};
+    wwuln.initWwulnLunID(PBase::WWULN_CODE_SET_BINARY, 8, bytes);
+    EXPECT_EQ(dev1->disableCache(wwuln), MHBA_E_LUN_NOT_APPLICABLE);
+    EXPECT_EQ(adapter(0)->disableCache(wwuln), MHBA_E_OBJECT_NOT_FOUND) << "not a drive of this adapter";
+}
+
+TEST_F(SimApiTest, DrivesAreFoundByNameLikeLuns)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    ASSERT_NE(dev0, nullptr);
+    HLunNameIndex* index = dev0->getLunNameIndex();
+    ASSERT_EQ(index->scanAll(PBase::LUN_NAME_WWULN), MHBA_S_OK);
+    ASSERT_EQ(index->scanAll(PBase::LUN_NAME_SERIAL_NUMBER), MHBA_S_OK);
+    unsigned char bytes[] = {0x50, 0x00, 0xC5, 0x32, 0xA1, 0x0C, 0x00, 0x03};
+    PLunsForOneNameID byName, bySerial;
+    ASSERT_TRUE(byName.initLunsForOneNameIDFromBinaryData(PBase::LUN_NAME_WWULN, bytes, sizeof bytes));
+    ASSERT_TRUE(bySerial.initLunsForOneNameID(PBase::LUN_NAME_SERIAL_NUMBER, "S01B32A10C003"));
+    HLunIdList* found = index->findLuns(byName);
+    ASSERT_NE(found, nullptr);
+    ASSERT_EQ(found->count(), 1u);
+    EXPECT_EQ(found->at(0)->lunNumber(), 259);
+    found = index->findLuns(bySerial);
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->at(0)->lunNumber(), 259);
+}
+
+TEST_F(SimApiTest, RestoringTheConfigurationOfAnOwnerThatNoDriveNamesFindsNothing)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    ASSERT_NE(dev0, nullptr);
+    EXPECT_EQ(dev0->restoreDriveConfig(0x2000001B32A1DEADull), MHBA_E_OBJECT_NOT_FOUND);
+    EXPECT_EQ(dev0->restoreDriveConfig(kDev0), MHBA_E_OBJECT_NOT_FOUND);
+    MHbaReturnBuffer first;
+    ASSERT_EQ(dev0->getDrivesWithErrorDetails(&first), MHBA_S_OK);
+    EXPECT_EQ(dev0->getDrives()->items[0]->getDriveInfo()->ownerId, kDev0);
 }

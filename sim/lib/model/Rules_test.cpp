@@ -1,5 +1,6 @@
 #include "model/Rules.h"
 
+#include "model/AdapterStorage.h"
 #include "model/Codes.h"
 #include "model/DefaultSan.h"
 
@@ -335,4 +336,64 @@ TEST(CodesTest, TextsAndFailureRule)
     EXPECT_FALSE(code::isFailure(2));
     EXPECT_TRUE(code::isFailure(3));
     EXPECT_TRUE(code::isFailure(1000));
+}
+
+TEST_F(RulesTest, DrivesJoinThePoolOnlyWhenFreeUsableAndTheAdaptersOwn)
+{
+    Adapter& a = *findAdapter(san, kDev0);
+    const std::string freeDrive = a.drives[3].id;
+    ASSERT_FALSE(a.drives[3].configured);
+    EXPECT_EQ(rules::addDriveToPool(san, kDev0, "no-such-drive", kNow), code::ObjectNotFound);
+    EXPECT_EQ(rules::addDriveToPool(san, kDev0, a.drives[0].id, kNow), code::DriveAlreadyInPool);
+
+    a.drives[3].owner.value = 0x2000001B32A1DEADull;
+    EXPECT_EQ(rules::addDriveToPool(san, kDev0, freeDrive, kNow), code::DriveOfAnotherAdapter);
+    a.drives[3].owner.value = 0;
+    a.drives[3].online = false;
+    EXPECT_EQ(rules::addDriveToPool(san, kDev0, freeDrive, kNow), code::DriveNotUsable);
+    a.drives[3].online = true;
+    a.drives[3].securityLocked = true;
+    EXPECT_EQ(rules::addDriveToPool(san, kDev0, freeDrive, kNow), code::DriveNotUsable);
+    a.drives[3].securityLocked = false;
+    EXPECT_FALSE(a.drives[3].configured) << "refusals change nothing";
+
+    EXPECT_EQ(rules::addDriveToPool(san, kDev0, freeDrive, kNow), code::Ok);
+    EXPECT_TRUE(a.drives[3].configured);
+    EXPECT_EQ(rules::addDriveToPool(san, kOffline, freeDrive, kNow), code::AdapterNotResponding);
+}
+
+TEST_F(RulesTest, ADriveLeavesThePoolOnlyWhileThePoolAndDataLunsStillFit)
+{
+    Adapter& a = *findAdapter(san, kDev0);
+    EXPECT_EQ(rules::removeDriveFromPool(san, kDev0, a.drives[3].id, kNow), code::DriveNotInPool);
+    // 800 GiB of pool and 50 GiB of data LUNs on three drives of 400 GB.
+    EXPECT_EQ(rules::removeDriveFromPool(san, kDev0, a.drives[0].id, kNow), code::PoolSizeOutOfRange);
+    EXPECT_TRUE(a.drives[0].configured);
+    ASSERT_EQ(rules::setPoolSize(san, kDev0, 100 * 1024, kNow), code::Ok);
+    EXPECT_EQ(rules::removeDriveFromPool(san, kDev0, a.drives[0].id, kNow), code::Ok);
+    EXPECT_FALSE(a.drives[0].configured);
+}
+
+TEST_F(RulesTest, RestoringADriveConfigurationAdoptsTheOwnersDrives)
+{
+    Adapter& a = *findAdapter(san, kDev1);
+    constexpr u64 kOld = 0x2000001B32A1DEADull;
+    a.drives[0].owner.value = kOld;
+    a.drives[3].owner.value = kOld;
+    a.drives[2].owner.value = 0x1234;
+    u64 configured = configuredBytes(a);
+    size_t logSize = a.log.size();
+
+    EXPECT_EQ(rules::restoreDriveConfig(san, kDev1, 0x9999, kNow), code::ObjectNotFound);
+    EXPECT_EQ(rules::restoreDriveConfig(san, kDev1, kDev1, kNow), code::ObjectNotFound) << "its own are no one else's";
+    EXPECT_EQ(rules::restoreDriveConfig(san, kDev1, kOld, kNow), code::Ok);
+    EXPECT_TRUE(ownsDrive(a, a.drives[0]));
+    EXPECT_EQ(a.drives[0].owner.value, 0u);
+    EXPECT_EQ(a.drives[3].owner.value, 0u);
+    EXPECT_EQ(a.drives[2].owner.value, 0x1234u) << "another owner's drive stays";
+    EXPECT_EQ(configuredBytes(a), configured + a.drives[0].sizeBytes) << "the configured one joins the pool";
+    ASSERT_EQ(a.log.size(), logSize + 1);
+    EXPECT_EQ(a.log.back().message, "Drive configuration of 2 drives restored from owner 2000001B32A1DEAD");
+    EXPECT_EQ(rules::restoreDriveConfig(san, kDev1, kOld, kNow), code::ObjectNotFound) << "nothing left to adopt";
+    EXPECT_EQ(rules::restoreDriveConfig(san, kOffline, kOld, kNow), code::AdapterNotResponding);
 }

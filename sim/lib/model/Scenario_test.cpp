@@ -200,3 +200,19 @@ TEST(ScenarioTest, DamagedBase64InAScenarioIsNamed)
     EXPECT_FALSE(scenarioFromText(text, "s.json", san, error));
     EXPECT_EQ(error, "s.json: adapter 2A file \"fru.img\" is not valid base64");
 }
+
+TEST(ScenarioTest, ADrivesOwnerIsWrittenOnlyWhileItNamesAnAdapter)
+{
+    const San original = defaultSan();
+    San san = original;
+    san.adapters[0].drives[1].owner.value = 0x2000001B32A1DEADull;
+    std::string text = scenarioToText(san);
+    EXPECT_NE(text.find("\"owner\": \"2000001B32A1DEAD\""), std::string::npos);
+    San back;
+    std::string error;
+    ASSERT_TRUE(scenarioFromText(text, "x.json", back, error)) << error;
+    EXPECT_EQ(back.adapters[0].drives[1].owner.value, 0x2000001B32A1DEADull);
+    EXPECT_EQ(back.adapters[0].drives[0].owner.value, 0u);
+    back.adapters[0].drives[1].owner = AdapterId{};
+    EXPECT_EQ(scenarioToText(back), scenarioToText(original));
+}
