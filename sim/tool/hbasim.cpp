@@ -46,7 +46,7 @@ const char* const kUsage =
     "  offline adapter ADAPTER | port ADAPTER PORT | lun WWULN | agent ADDRESS\n"
     "  online adapter ADAPTER | port ADAPTER PORT | lun WWULN | agent ADDRESS\n"
     "                            take an object offline or bring it back\n"
-    "  generate ADAPTERS LUN_PATHS [--targets N] [--output FILE] [--log N]\n"
+    "  generate ADAPTERS LUN_PATHS [--targets N] [--drives N] [--output FILE] [--log N]\n"
     "                            make a large synthetic SAN, into the state unless --output is given;\n"
     "                            --log gives every adapter a log of N records (default 20)\n"
     "  log ADAPTER append SEVERITY SOURCE MESSAGE [--count N]\n"
@@ -399,14 +399,17 @@ int generate(StateStore& store, std::vector<std::string> args)
     if (!takeLogOption(args, logRecords, problem))
         return badArguments(problem);
     std::string output;
-    long long targets = 16;
+    long long targets = 16, drives = 4;
     std::vector<std::string> plain;
     for (size_t i = 0; i < args.size(); ++i) {
-        if ((args[i] == "--targets" || args[i] == "--output") && i + 1 >= args.size())
+        if ((args[i] == "--targets" || args[i] == "--drives" || args[i] == "--output") && i + 1 >= args.size())
             return badArguments(args[i] + " needs a value");
         if (args[i] == "--targets") {
             if (!wholeNumber(args[++i], 1, 1024, targets))
                 return badArguments("--targets takes a number from 1 to 1024");
+        } else if (args[i] == "--drives") {
+            if (!wholeNumber(args[++i], 0, 64, drives))
+                return badArguments("--drives takes a number from 0 to 64");
         } else if (args[i] == "--output") {
             output = args[++i];
         } else {
@@ -416,7 +419,8 @@ int generate(StateStore& store, std::vector<std::string> args)
     long long adapters, paths;
     if (plain.size() != 2 || !wholeNumber(plain[0], 1, 64, adapters) || !wholeNumber(plain[1], 1, 1000000, paths))
         return badArguments("generate takes ADAPTERS (1 to 64) and LUN_PATHS (1 to 1000000)");
-    San san = generateSan(static_cast<int>(adapters), static_cast<int>(paths), static_cast<int>(targets));
+    San san = generateSan(static_cast<int>(adapters), static_cast<int>(paths), static_cast<int>(targets),
+                          static_cast<int>(drives));
     if (logRecords >= 0)
         replaceLogs(san, simNow(), static_cast<int>(logRecords));
     std::string error;

@@ -72,10 +72,8 @@ TEST_F(DriveLunsTest, AnSsdIdentifierIsTheSerialNumberOrTheNameAsShown)
     const Drive& first = dev0->drives[0];
     using Ssd = KWwulnLunID;
     EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes(first.serial))), &first);
-    EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes("5000-c532-a10c-0000"))),
-              &first);
-    EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes("slot7"))),
-              &dev0->drives.back());
+    EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes("5000-c532-a10c-0000"))), &first);
+    EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes("slot7"))), &dev0->drives.back());
     EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes(""))), nullptr);
     EXPECT_EQ(driveForSsdId(*dev0, named<Ssd>(PBase::WWULN_CODE_SET_TEXT, textBytes("S-NONE"))), nullptr);
 }

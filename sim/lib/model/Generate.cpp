@@ -1,8 +1,10 @@
 #include "model/Generate.h"
 
 #include "model/DefaultSan.h"
+#include "model/View.h"
 #include "state/Clock.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace sim {
@@ -21,7 +23,7 @@ Host generatedHost()
 
 } // namespace
 
-San generateSan(int adapters, int lunPaths, int targets)
+San generateSan(int adapters, int lunPaths, int targets, int drives)
 {
     long long now = simNow();
     San san;
@@ -34,9 +36,9 @@ San generateSan(int adapters, int lunPaths, int targets)
         a.symbolicName = "bench-" + std::to_string(i);
         a.serialNumber = "ZB" + hex16(static_cast<u64>(i)).substr(10);
         a.ports = {makePort(a.id.value, 0), makePort(a.id.value, 1)};
-        for (int d = 0; d < 4; ++d)
-            a.drives.push_back(makeDrive(a.id.value, d, 800ull * 1000 * 1000 * 1000, d < 3));
-        a.cachePoolBytes = 1024ull * 1024 * 1024 * 1024;
+        for (int d = 0; d < drives; ++d)
+            a.drives.push_back(makeDrive(a.id.value, d, 800ull * 1000 * 1000 * 1000, d + 1 < drives || drives == 1));
+        a.cachePoolBytes = std::min<u64>(1024ull * 1024 * 1024 * 1024, configuredBytes(a));
         a.bootTime = a.statsClearedAt = now - 86400;
         a.log = makeLog(now, 20);
         san.adapters.push_back(a);

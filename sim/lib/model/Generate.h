@@ -8,6 +8,7 @@ namespace sim {
 // `adapters` local adapters (the first two in a cluster) that all see
 // `targets` FC targets; LUNs are spread over the targets so that there are
 // `lunPaths` paths in all, every fourth LUN reached through two targets.
-San generateSan(int adapters, int lunPaths, int targets = 16);
+// Each adapter has `drives` SSDs, all but the last in its cache pool.
+San generateSan(int adapters, int lunPaths, int targets = 16, int drives = 4);
 
 } // namespace sim

@@ -111,8 +111,8 @@ TEST(DrivePools, GiveTheRecordsOfEveryDriveInOrder)
 
 TEST(DrivePools, TellAPartialGatheringByItsFirstFailure)
 {
-    SimulatedSan san(
-        "drives", R"([{"adapter": "A0", "operation": "getDrivesWithErrorDetails", "code": 2, "firstError": 1006}])");
+    SimulatedSan san("drives",
+                     R"([{"adapter": "A0", "operation": "getDrivesWithErrorDetails", "code": 2, "firstError": 1006}])");
     ADDRESSING_REQUIRE_SIMULATOR(san);
     HIsaAdapter* const adapter = san.adapter(kAdapter);
     ASSERT_NE(nullptr, adapter);

@@ -173,3 +173,11 @@ LUN listings, and every LUN and cache operation refuses them.
   $ hostcli -zek remove lun -zek=0 -lun_serial=S01B32A10C000
   \r             \r*** The LUN is not a SAN data LUN (esc)
   [255]
+
+A result record that cannot be written makes the command fail with 55; the
+change itself is made.
+
+  $ hostcli -zek remove drive -zek=0 -drive=5000C532A10C0003 -result=/nonexistent/r.dat -quiet
+  [55]
+  $ hostcli -zek list drive -zek=0 | sed -n '3p'
+  Configured Drives (3 of 4)

@@ -116,3 +116,8 @@ nothing is listed; an adapter that is not there is not found.
   $ hostcli -zek list drive -zek=9
   \r             \r*** Object not found (esc)
   [255]
+
+A result record that cannot be written makes the command fail with 55.
+
+  $ hostcli -zek list drive -zek=1 -result=/nonexistent/r.dat -quiet
+  [55]

@@ -275,3 +275,10 @@ its drives although it holds no data LUN.
   --
           Drive Path:
               -fc_target=2100-001B-32A1-0D00   -lun_number=259
+
+A result record that cannot be written makes the command fail with 55.
+
+  $ hostcli -zek show drive -zek=0 -result=/nonexistent/r.dat -quiet
+  [55]
+  $ hostcli -zek show drive -zek=0 -drive=5000C532A10C0000 -result=/nonexistent/r.dat -quiet
+  [55]

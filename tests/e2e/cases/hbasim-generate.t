@@ -16,3 +16,21 @@ Large synthetic SANs for benchmarks: 16 adapters with 4096 LUN paths.
   hbasim: --targets needs a value
   Try "hbasim help".
   [2]
+
+Each adapter has four SSDs unless --drives says otherwise, all but the last
+in its cache pool.
+
+  $ hbasim generate 2 10 --drives 64 > /dev/null
+  $ hbasim show | grep -m1 drives: | sed 's/.*drives/drives/'
+  drives: 64 (63 in pool); cache pool 1 TiB; log 20 records
+  $ hbasim generate 2 10 --drives 0 > /dev/null
+  $ hbasim show | grep -m1 drives: | sed 's/.*drives/drives/'
+  drives: 0 (0 in pool); cache pool 0 MiB; log 20 records
+  $ hbasim generate 2 10 --drives 65 2>&1
+  hbasim: --drives takes a number from 0 to 64
+  Try "hbasim help".
+  [2]
+  $ hbasim generate 2 10 --drives 2>&1
+  hbasim: --drives needs a value
+  Try "hbasim help".
+  [2]

@@ -147,3 +147,13 @@ An adapter that stops answering once it has been found gets its code.
   $ hostcli -zek show pool -zek=0
   \r             \r*** The adapter does not respond (it is offline or restarting) (esc)
   [255]
+
+A result record that cannot be written makes the command fail with 55; the
+change itself is made.
+
+  $ hostcli -zek show pool -zek=0 -result=/nonexistent/r.dat -quiet
+  [55]
+  $ hostcli -zek set pool -zek=0 -cache=50 -result=/nonexistent/r.dat -quiet
+  [55]
+  $ hostcli -zek show pool -zek=0 | grep Configured
+      SSD Storage Configured for Cache Pool = 50GB
