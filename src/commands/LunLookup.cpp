@@ -117,3 +117,23 @@ int readLunRecord(HLun& lun)
         return 0;
     return lun.refreshLunInfo();
 }
+
+KLunInfo const* readableLunRecord(HLun* lun)
+{
+    if (!lun || readLunRecord(*lun) != 0 || !lun->getLunInfo()->isLunInfoValid())
+        return nullptr;
+    return lun->getLunInfo();
+}
+
+std::vector<PLunID> lunPathsOf(HLunIdList* list)
+{
+    std::vector<PLunID> paths;
+    uint32_t const count = list ? list->count() : 0;
+    for (uint32_t i = 0; i < count; ++i) {
+        PLunID const* const at = list->at(i);
+        if (!at)
+            break; // past the end of what the library holds
+        paths.push_back(*at);
+    }
+    return paths;
+}

@@ -9,6 +9,8 @@
 struct AddressedAdapter;
 class HIsaAdapter;
 class HLun;
+class HLunIdList;
+class KLunInfo;
 class PLunID;
 class PIpAddress;
 class TokenCmd;
@@ -53,3 +55,11 @@ HLun* findLunObject(HIsaAdapter& adapter, PLunID const& lun, LunGathering gather
 
 // Makes sure the record of the LUN is filled: 0, or the code of the refresh.
 int readLunRecord(HLun& lun);
+
+// The filled record of a LUN object; null when there is no object or its
+// record cannot be read.
+KLunInfo const* readableLunRecord(HLun* lun);
+
+// The LUN paths a library list holds, copied out, so that gathering more
+// while walking them cannot disturb the walk. Empty for no list.
+std::vector<PLunID> lunPathsOf(HLunIdList* list);

@@ -1,8 +1,7 @@
 #include "api/DriveLuns.h"
 
 #include "api/Ids.h"
-#include "model/DefaultSan.h"
-#include "model/View.h"
+#include "support/DefaultSanTest.h"
 
 #include "records/KLunInfo.h"
 
@@ -11,9 +10,6 @@
 using namespace sim;
 
 namespace {
-
-constexpr u64 kDev0 = 0x2000001B32A10C00ull;
-constexpr u64 kDev1 = 0x2000001B32A10D00ull;
 
 template <typename Id>
 Id named(PBase::WWULN_CODE_SET_TYPE codeSet, std::vector<unsigned char> bytes)
@@ -31,24 +27,17 @@ std::vector<unsigned char> textBytes(const std::string& text)
     return std::vector<unsigned char>(text.begin(), text.end());
 }
 
-class DriveLunsTest : public ::testing::Test {
+// The default SAN, with a drive named by text on the first adapter.
+class DriveLunsTest : public DefaultSanTest {
 protected:
     void SetUp() override
     {
-        setenv("HBASIM_TIME", "1700000000", 1);
-        san = defaultSan();
-        dev0 = findAdapter(san, kDev0);
-        dev1 = findAdapter(san, kDev1);
-        ASSERT_NE(dev0, nullptr);
-        ASSERT_NE(dev1, nullptr);
+        DefaultSanTest::SetUp();
         Drive text;
         text.id = "SLOT-7";
         text.serial = "SLOCK7";
         dev0->drives.push_back(text);
     }
-    San san;
-    Adapter* dev0 = nullptr;
-    Adapter* dev1 = nullptr;
 };
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "model/AdapterStorage.h"
 
-#include "model/DefaultSan.h"
-#include "model/View.h"
+#include "support/DefaultSanTest.h"
 
 #include <gtest/gtest.h>
 
@@ -9,25 +8,9 @@ using namespace sim;
 
 namespace {
 
-constexpr u64 kDev0 = 0x2000001B32A10C00ull;
-constexpr u64 kDev1 = 0x2000001B32A10D00ull;
 constexpr u64 kOldAdapter = 0x2000001B32A1DEADull;
 
-class AdapterStorageTest : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        setenv("HBASIM_TIME", "1700000000", 1);
-        san = defaultSan();
-        dev0 = findAdapter(san, kDev0);
-        dev1 = findAdapter(san, kDev1);
-        ASSERT_NE(dev0, nullptr);
-        ASSERT_NE(dev1, nullptr);
-    }
-    San san;
-    Adapter* dev0 = nullptr;
-    Adapter* dev1 = nullptr;
-};
+using AdapterStorageTest = DefaultSanTest;
 
 } // namespace
 

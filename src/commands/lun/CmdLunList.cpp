@@ -123,13 +123,7 @@ int CmdLunList::listLunsForOneTarget(HIsaAdapter* adapter, PTargetID const& targ
         return rc;
     text += "\n\nTarget \"" + target.displayText() + "\"\n";
 
-    HLunIdList* const ids = seen->getLunIds();
-    uint32_t const count = ids ? ids->count() : 0;
-    for (uint32_t i = 0; i < count; ++i) {
-        PLunID const* const at = ids->at(i);
-        if (!at)
-            break;
-        PLunID const id = *at;
+    for (PLunID const& id : lunPathsOf(seen->getLunIds())) {
         HLun* const lun = adapter->getLuns()->find(id);
         // A path that the library lists but holds no object for has
         // nothing to show.

@@ -150,18 +150,10 @@ int CmdDriveShow::findDriveThroughLun(HIsaAdapter& adapter, PTargetID const& tar
     MHbaReturnBuffer firstFailure;
     if (int const rc = adapter.getLunsForSpecificTarget(seen, &firstFailure))
         return rc;
-    HLunIdList* const ids = seen->getLunIds();
-    uint32_t const count = ids ? ids->count() : 0;
-    for (uint32_t i = 0; i < count; ++i) {
-        PLunID const* const at = ids->at(i);
-        if (!at)
-            break;
-        PLunID const lunId = *at;
-        HLun* const lun = adapter.getLuns()->find(lunId);
-        if (!lun || readLunRecord(*lun) != 0 || !lun->getLunInfo()->isLunInfoValid())
-            continue;
-        if (lunId.lunNumber() == lunNumber) {
-            id = driveIdOfLun(*lun->getLunInfo());
+    for (PLunID const& lunId : lunPathsOf(seen->getLunIds())) {
+        KLunInfo const* const info = readableLunRecord(adapter.getLuns()->find(lunId));
+        if (info && lunId.lunNumber() == lunNumber) {
+            id = driveIdOfLun(*info);
             return 0;
         }
     }

@@ -61,6 +61,17 @@ HIsaAdapter* withDrives(SimulatedSan const& san)
     return adapter;
 }
 
+// The adapter with its targets gathered, as before a walk over them.
+HIsaAdapter* withTargets(SimulatedSan const& san)
+{
+    HIsaAdapter* const adapter = san.adapter(kAdapter);
+    MHbaReturnBuffer firstFailure;
+    if (adapter) {
+        EXPECT_EQ(0, adapter->getTargetsAndInitiators(&firstFailure));
+    }
+    return adapter;
+}
+
 std::string pathLine(int number)
 {
     return "            -fc_target=" + kInternalTarget + "   -lun_number=" + std::to_string(number) + "\n";
@@ -158,10 +169,8 @@ TEST(DrivePathIndex, GivesEachDriveTheLunsThatPresentIt)
 {
     SimulatedSan san("drives");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
+    HIsaAdapter* const adapter = withTargets(san);
     ASSERT_NE(nullptr, adapter);
-    MHbaReturnBuffer firstFailure;
-    ASSERT_EQ(0, adapter->getTargetsAndInitiators(&firstFailure));
     DrivePathIndex index;
     ASSERT_EQ(0, index.build(*adapter));
     EXPECT_EQ(pathLine(256), index.pathLines(binaryDrive("5000C50000A00000")));
@@ -178,10 +187,8 @@ TEST(DrivePathIndex, StopsAtATargetWhoseLunsCannotBeGathered)
 {
     SimulatedSan san("drives", R"([{"adapter": "A0", "operation": "getLunsForSpecificTarget", "code": 1006}])");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
+    HIsaAdapter* const adapter = withTargets(san);
     ASSERT_NE(nullptr, adapter);
-    MHbaReturnBuffer firstFailure;
-    ASSERT_EQ(0, adapter->getTargetsAndInitiators(&firstFailure));
     DrivePathIndex index;
     EXPECT_EQ(1006, index.build(*adapter));
     EXPECT_EQ("", index.pathLines(binaryDrive("5000C50000A00000")));
@@ -191,10 +198,8 @@ TEST(CmdDriveShow, DrivePathInfoHasItsHeadingAndTheDrivesLines)
 {
     SimulatedSan san("drives");
     ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
+    HIsaAdapter* const adapter = withTargets(san);
     ASSERT_NE(nullptr, adapter);
-    MHbaReturnBuffer firstFailure;
-    ASSERT_EQ(0, adapter->getTargetsAndInitiators(&firstFailure));
     CmdDriveShow command;
     KDriveID drive = binaryDrive("5000C50000A00001");
     std::string text = "earlier text";

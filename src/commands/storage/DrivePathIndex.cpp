@@ -31,19 +31,10 @@ int DrivePathIndex::build(HIsaAdapter& adapter)
         if (int const rc = adapter.getLunsForSpecificTarget(target, &firstFailure))
             return rc;
         std::string const targetText = target->getTargetId()->displayText();
-        HLunIdList* const ids = target->getLunIds();
-        uint32_t const count = ids ? ids->count() : 0;
-        for (uint32_t i = 0; i < count; ++i) {
-            PLunID const* const at = ids->at(i);
-            if (!at)
-                break;
-            PLunID const id = *at;
-            HLun* const lun = adapter.getLuns()->find(id);
-            if (!lun || readLunRecord(*lun) != 0 || !lun->getLunInfo()->isLunInfoValid())
-                continue;
-            linesByName[lunNameKey(*lun->getLunInfo())] +=
-                "            -fc_target=" + targetText + "   -lun_number=" + std::to_string(id.lunNumber()) + "\n";
-        }
+        for (PLunID const& id : lunPathsOf(target->getLunIds()))
+            if (KLunInfo const* const info = readableLunRecord(adapter.getLuns()->find(id)))
+                linesByName[lunNameKey(*info)] +=
+                    "            -fc_target=" + targetText + "   -lun_number=" + std::to_string(id.lunNumber()) + "\n";
     }
     return 0;
 }

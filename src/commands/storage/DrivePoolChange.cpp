@@ -21,10 +21,8 @@ KDriveID driveOfLun(HIsaAdapter& adapter, std::vector<PLunID> const& luns)
     if (luns.empty())
         return KDriveID();
     // A LUN named in full by its keywords has not been gathered yet.
-    HLun* const lun = findLunObject(adapter, luns.front(), LunGathering::PathTarget);
-    if (!lun || readLunRecord(*lun) != 0 || !lun->getLunInfo()->isLunInfoValid())
-        return KDriveID();
-    return driveIdOfLun(*lun->getLunInfo());
+    KLunInfo const* const info = readableLunRecord(findLunObject(adapter, luns.front(), LunGathering::PathTarget));
+    return info ? driveIdOfLun(*info) : KDriveID();
 }
 
 } // namespace
