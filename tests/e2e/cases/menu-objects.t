@@ -36,15 +36,21 @@ target left out), then that target's LUNs.
           Choose LUN: 
   zekcli show lun -zek=2000001B32A10C00 -fc_target=2100-0024-FF3C-5A10 -lun_number=2
 
-By serial number, and by WWULN, each LUN once however many paths it has.
+By serial number, and by WWULN, each LUN once however many paths it has;
+the adapter's drives, which it presents as LUNs of its internal target, are
+among them.
 
-  $ session '0\n2\n8\n\n0\n0\n3\nq\n'; grep -e 'lun_serial=' -e 'serial number: ' -e '^zekcli' screen.txt | head -n 7
+  $ session '0\n2\n8\n\n0\n0\n3\nq\n'; grep -e 'lun_serial=' -e 'serial number: ' -e '^zekcli' screen.txt | head -n 11
   exit 58
          [0:]  -lun_serial="APM00123400001"
           1:   -lun_serial="APM00123400002"
           2:   -lun_serial="SV0B2A001"
           3:   -lun_serial="SV0B2A002"
           4:   -lun_serial="VLT07"
+          5:   -lun_serial="S01B32A10C000"
+          6:   -lun_serial="S01B32A10C001"
+          7:   -lun_serial="S01B32A10C002"
+          8:   -lun_serial="S01B32A10C003"
           Choose LUN by serial number: 
   zekcli show lun -zek=2000001B32A10C00 -lun_serial=SV0B2A002
   $ session '0\n2\n8\n\n0\n1\n7\nq\n'; grep '^zekcli' screen.txt
@@ -107,7 +113,7 @@ for as a required keyword, with the choice as its value.
 
 "show drive" names a LUN and a drive. In the drive menu "h" shows the
 command's help (and the one-character result of showing it), then the main
-menu; "m" goes back to the main menu. The command itself is not built yet.
+menu; "m" goes back to the main menu.
 
   $ session '0\n2\n4\n\n0\n3\nh\nq\n'; from '0:.  -drive=' | sed -n '1,/^Syntax/p'; grep -c "$(printf '\001')" screen.txt
   exit 58
@@ -126,7 +132,6 @@ menu; "m" goes back to the main menu. The command itself is not built yet.
   $ session '0\n2\n4\n\n0\n3\n1\n\nq\n'; grep -e '^zekcli' -e '^\*\*\*' screen.txt
   exit 58
   zekcli show drive -zek=2000001B32A10C00 -drive=5000-C532-A10C-0001
-  *** ZEKCLI_CMD_FAIL-- The command "show drive" is not available in this build yet
 
 Initiators and devices have menus of their own ("show initiator", "show
 device", neither built yet).

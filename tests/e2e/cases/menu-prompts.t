@@ -33,7 +33,9 @@ the session; Enter keeps it.
 
 A keyword whose values are words offers them in a menu, the second word as
 default: -mode of "enable cache". The LUN is chosen by WWULN first (the how
-menu has no "All LUNs": caching is always about one LUN).
+menu has no "All LUNs": caching is always about one LUN). The adapter's
+drives are offered too, as the LUNs it presents them as; the adapter refuses
+to cache them.
 
   $ session '1\n7\n1\n\n\n1\n1\n\nq\n'; screen | sed -n '/specifiy a LUN/,/Select: /p'
   exit 58
@@ -50,6 +52,10 @@ menu has no "All LUNs": caching is always about one LUN).
           6:   -lun_wwuln=600A-0B80-002A-1C3D-0000-0000-52B2-A0F0
           7:   -lun_wwuln="vault.example:lun-archive-07"
           8:   -lun_wwuln=2000-001B-32A1-0C00-0000-0000-0000-0001
+          9:   -lun_wwuln=5000-C532-A10C-0000
+         10:   -lun_wwuln=5000-C532-A10C-0001
+         11:   -lun_wwuln=5000-C532-A10C-0002
+         12:   -lun_wwuln=5000-C532-A10C-0003
   
           [Required] Choose WWULN: 
   
