@@ -1,8 +1,12 @@
 #include "commands/storage/CmdFcBasicSet.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/FcPortChoice.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/FcPortSettings.h"
+#include "core/ZekcliReturn.h"
+#include "records/KFcInfo.h"
 
 namespace {
 
@@ -55,5 +59,25 @@ CmdFcBasicSet::CmdFcBasicSet()
 
 int CmdFcBasicSet::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    FcPortChoice choice;
+    if (int const rc = chooseRequiredFcPort(*this, choice, err))
+        return rc;
+    HIsaAdapter& adapter = *choice.addressed.adapter;
+    KFcInfo port;
+    if (int const rc = adapter.getFcInfo(choice.index, port))
+        return rc;
+    FcPortSettings settings = FcPortSettings::of(port);
+    if (!readFcPortSettings(*this, settings, err))
+        return ZEKCLI_PARSE_FAIL;
+    if (int const rc =
+            adapter.setFcInfo(choice.index, settings.linkRate, settings.connectionOption, settings.executionThrottle))
+        return rc;
+    // Read back, so that the result record shows the port as it now is.
+    if (int const rc = adapter.getFcInfo(choice.index, port))
+        return rc;
+    CommandReport report;
+    report.text = "FC Port " + std::to_string(choice.index + 1) + " basic info successfully configured";
+    report.data = &port;
+    report.size = sizeof port;
+    return finishCommand(*this, &adapter, report, err);
 }

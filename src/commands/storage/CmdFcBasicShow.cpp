@@ -1,8 +1,10 @@
 #include "commands/storage/CmdFcBasicShow.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/FcPortChoice.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "records/KFcInfo.h"
 
 namespace {
 
@@ -29,5 +31,7 @@ CmdFcBasicShow::CmdFcBasicShow()
 
 int CmdFcBasicShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    // A port's block already ends in a line feed; the blocks of all ports
+    // are set apart by one more.
+    return showPortRecords(*this, &HIsaAdapter::getFcInfo, false, err);
 }

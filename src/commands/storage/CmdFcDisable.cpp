@@ -2,7 +2,7 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/FcPortSwitch.h"
 
 namespace {
 
@@ -27,5 +27,5 @@ CmdFcDisable::CmdFcDisable()
 
 int CmdFcDisable::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return switchFcPort(*this, false, err);
 }

@@ -2,7 +2,7 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/FcPortSwitch.h"
 
 namespace {
 
@@ -26,5 +26,5 @@ CmdFcEnable::CmdFcEnable()
 
 int CmdFcEnable::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return switchFcPort(*this, true, err);
 }
