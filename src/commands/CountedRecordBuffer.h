@@ -11,6 +11,19 @@
 #include "commands/CommandOutput.h"
 #include "records/RecordImage.h"
 
+// The bytes of a record that a payload carries: its whole memory image, or
+// the shorter image that the record names as PAYLOAD_IMAGE_SIZE.
+template <typename Record>
+constexpr unsigned int payloadImageSize()
+{
+    if constexpr (requires { Record::PAYLOAD_IMAGE_SIZE; }) {
+        static_assert(Record::PAYLOAD_IMAGE_SIZE <= sizeof(Record), "a payload image is part of the record");
+        return Record::PAYLOAD_IMAGE_SIZE;
+    } else {
+        return sizeof(Record);
+    }
+}
+
 class CountedRecordBuffer {
 public:
     // The header alone, with a count of 0.
@@ -20,8 +33,10 @@ public:
     void appendAll(std::vector<Record> const& records)
     {
         for (Record const& record : records) {
-            beginImage(sizeof(Record));
+            beginImage(payloadImageSize<Record>());
             appendRecordImage(bytes, record);
+            // A record longer than its payload image leaves its tail out.
+            bytes.resize(bytes.size() - (sizeof(Record) - payloadImageSize<Record>()));
         }
     }
 

@@ -56,6 +56,10 @@ public:
         PORTAL_MODE_UNSET = 4,
     };
 
+    // The bytes of the record that a result payload carries: the names of
+    // its iSCSI side are cut short there.
+    static constexpr unsigned int PAYLOAD_IMAGE_SIZE = 288;
+
     KTargetInfo();
     KTargetInfo(const KTargetInfo& other);
     KTargetInfo& operator=(const KTargetInfo& other);

@@ -51,6 +51,21 @@ public:
             retire(std::shared_ptr<Element>(std::move(e)));
         owned_.clear();
     }
+    // Ends a gathering: the collection lists `kept` (elements it holds), in
+    // that order, and retires the others.
+    void keepOnly(const std::vector<Element*>& kept)
+    {
+        std::unordered_set<const Element*> keep(kept.begin(), kept.end());
+        std::vector<std::unique_ptr<Element>> staying;
+        for (auto& e : owned_) {
+            if (keep.count(e.get()))
+                staying.push_back(std::move(e));
+            else
+                retire(std::shared_ptr<Element>(std::move(e)));
+        }
+        owned_ = std::move(staying);
+        this->items.assign(kept.begin(), kept.end());
+    }
     const std::vector<std::unique_ptr<Element>>& owned() const { return owned_; }
 
 private:
@@ -75,6 +90,13 @@ public:
     {
         index_.clear();
         OwningCollection<Base, Element>::clear();
+    }
+    void keepOnly(const std::vector<Element*>& kept)
+    {
+        OwningCollection<Base, Element>::keepOnly(kept);
+        index_.clear();
+        for (Element* e : kept)
+            index_.emplace(idKey(e->id), e);
     }
     Element* lookup(const PUniqueID& id) const
     {

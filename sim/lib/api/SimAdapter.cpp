@@ -1,6 +1,7 @@
 #include "api/SimAdapter.h"
 
 #include "api/DriveLuns.h"
+#include "api/FabricGather.h"
 #include "api/Fill.h"
 #include "api/Ids.h"
 #include "api/MHbaReturnBuffer.h"
@@ -184,34 +185,6 @@ e_MHBA_RETURN SimAdapter::getTargetsAndInitiators(MHbaReturnBuffer* firstError)
         "getTargetsAndInitiators", [&](const San& san, const Adapter& a) { return gatherFabric(san, a); }, firstError));
 }
 
-void SimAdapter::holdTarget(const San& san, const Adapter& a, const Target& t)
-{
-    if (discoveryPorts(san, a, t).empty())
-        return;
-    SimTarget* held = targets_.byName(t.name);
-    if (!held) {
-        auto fresh = std::make_unique<SimTarget>();
-        fresh->name = t.name;
-        fresh->id = targetId(t);
-        held = targets_.add(std::move(fresh));
-    }
-    fillTargetInfo(san, t, a, held->info);
-    KDeviceID device;
-    if (t.protocol == 2)
-        device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(t.iscsiName.c_str()));
-    else
-        device.initFcDeviceID(held->id.getData() + 4, 8);
-    if (!devices_.find(device)) {
-        auto d = std::make_unique<SimDevice>();
-        d->id = device;
-        d->info.init();
-        d->info.isTarget = true;
-        d->info.isInternal = t.internal;
-        d->info.target = held->info;
-        devices_.add(std::move(d));
-    }
-}
-
 const Target* SimAdapter::targetNamed(const San& san, const Adapter& a, const std::string& name)
 {
     if (const Target* t = findTarget(san, name))
@@ -222,42 +195,10 @@ const Target* SimAdapter::targetNamed(const San& san, const Adapter& a, const st
 
 int SimAdapter::gatherFabric(const San& san, const Adapter& a)
 {
-    for (const Target& t : san.targets)
-        holdTarget(san, a, t);
     // An adapter with drives presents them through its internal target, also
     // before the SAN holds one for data LUNs.
-    if (const Target* own = presentingTarget(san, a, madeInternal_); own == &madeInternal_)
-        holdTarget(san, a, *own);
-    for (const Initiator& i : san.initiators) {
-        bool seen = i.seenBy.empty();
-        for (const AdapterId& id : i.seenBy)
-            seen = seen || id == a.id;
-        if (!seen)
-            continue;
-        PInitiatorID pid;
-        KDeviceID device;
-        if (i.protocol == 2) {
-            pid.initIscsiInitiatorID(reinterpret_cast<const unsigned char*>(i.iscsiName.c_str()));
-            device.initIscsiDeviceID(reinterpret_cast<const unsigned char*>(i.iscsiName.c_str()));
-        } else {
-            pid.initFcInitiatorIDFromString(i.wwpn);
-            device.initFcDeviceIDFromString(i.wwpn);
-        }
-        if (!initiators_.find(pid)) {
-            auto held = std::make_unique<SimInitiator>();
-            held->id = pid;
-            fillInitiatorInfo(i, held->info);
-            initiators_.add(std::move(held));
-        }
-        if (!devices_.find(device)) {
-            auto d = std::make_unique<SimDevice>();
-            d->id = device;
-            d->info.init();
-            d->info.isInitiator = true;
-            fillInitiatorInfo(i, d->info.initiator);
-            devices_.add(std::move(d));
-        }
-    }
+    const Target* own = presentingTarget(san, a, madeInternal_);
+    gatherFabricObjects(san, a, own == &madeInternal_ ? own : nullptr, targets_, initiators_, devices_);
     return code::Ok;
 }
 

@@ -164,7 +164,6 @@ private:
     // The target of that name as this adapter sees it, its internal target
     // included before the SAN holds one.
     const Target* targetNamed(const San& san, const Adapter& a, const std::string& name);
-    void holdTarget(const San& san, const Adapter& a, const Target& t);
     SimLun* holdLun(const PLunID& id);
     void gatherDriveLuns(const San& san, const Adapter& a, SimTarget& target);
     void fillDriveLun(SimLun& lun, const San& san, const Adapter& a, const Drive& d);

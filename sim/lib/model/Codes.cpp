@@ -25,6 +25,7 @@ std::string text(int code)
         {StateFileError, "The simulated SAN could not be read or written"},
         {PasswordWrong, "The old password is not correct"},
         {PortHasFcipLink, "The FC port cannot be disabled because an FCIP link is configured on it"},
+        {LinkRateBeyondSfp, "The SFP of the FC port cannot run at the requested link rate"},
         {AlreadyCached, "The LUN is already cached"},
         {NotCached, "The LUN is not cached"},
         {TooManyLockedRanges, "No more locked ranges can be set for this LUN (at most 16)"},

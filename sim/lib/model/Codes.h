@@ -23,6 +23,7 @@ inline constexpr int FileError = 1010;
 inline constexpr int StateFileError = 1011;
 inline constexpr int PasswordWrong = 1012;
 inline constexpr int PortHasFcipLink = 1015;
+inline constexpr int LinkRateBeyondSfp = 1016;
 inline constexpr int AlreadyCached = 1020;
 inline constexpr int NotCached = 1021;
 inline constexpr int TooManyLockedRanges = 1022;

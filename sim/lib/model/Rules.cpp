@@ -749,6 +749,44 @@ int setTargetMaxOutstandingIo(San& san, u64 adapter, const std::string& target, 
     });
 }
 
+namespace {
+
+// Gb/s of a PBase::FC_LINK_RATE value from 2gb (1) to 16gb (5).
+int linkRateGbps(int linkRate)
+{
+    static const int gbps[] = {0, 2, 4, 8, 10, 16};
+    return gbps[linkRate];
+}
+
+// Gb/s that the fitted SFP carries at most: 0 with none fitted, and no
+// limit (-1) when the port does not report its SFP.
+int sfpGbps(int sfpState)
+{
+    switch (sfpState) {
+    case 1: // not present
+        return 0;
+    case 2: // 4Gb, and 4Gb mismatched to the port
+    case 4:
+        return 4;
+    case 3: // 8Gb, and 8Gb mismatched
+    case 5:
+        return 8;
+    case 6: // 10Gb
+        return 10;
+    default:
+        return -1;
+    }
+}
+
+// Auto negotiates whatever the SFP carries; a fixed rate must fit it.
+bool sfpCarries(int sfpState, int linkRate)
+{
+    int const limit = sfpGbps(sfpState);
+    return linkRate == 0 || limit < 0 || linkRateGbps(linkRate) <= limit;
+}
+
+} // namespace
+
 int setPortSettings(San& san, u64 adapter, u32 port, int linkRate, int option, u32 throttle, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
@@ -756,6 +794,8 @@ int setPortSettings(San& san, u64 adapter, u32 port, int linkRate, int option, u
             throttle > 65535)
             return code::InvalidArgument;
         Port& p = a.ports[port];
+        if (!sfpCarries(p.sfpState, linkRate))
+            return code::LinkRateBeyondSfp;
         p.programmedLinkRate = linkRate;
         p.connectionOption = option;
         p.executionThrottle = throttle;

@@ -196,6 +196,42 @@ TEST_F(RulesTest, DisabledPortHidesTargetsFoundOnlyThere)
     EXPECT_FALSE(adapterSeesTarget(san, *a, *spb));
 }
 
+TEST_F(RulesTest, LinkRateMustFitTheSfpAndARefusalChangesNothing)
+{
+    Port& port = findAdapter(san, kDev0)->ports[0];
+    ASSERT_EQ(port.sfpState, 3);                                                               // 8Gb
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 5, 0, 32, kNow), code::LinkRateBeyondSfp); // 16gb
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 4, 0, 32, kNow), code::LinkRateBeyondSfp); // 10gb
+    EXPECT_EQ(port.programmedLinkRate, 0);
+    EXPECT_EQ(port.connectionOption, 2);
+    EXPECT_EQ(port.executionThrottle, 64u);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 3, 0, 32, kNow), code::Ok); // 8gb
+    EXPECT_EQ(port.programmedLinkRate, 3);
+    EXPECT_EQ(port.linkRate, 3);
+    EXPECT_EQ(port.connectionMode, 0);
+    EXPECT_EQ(port.executionThrottle, 32u);
+
+    port.sfpState = 6; // 10Gb
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 4, 2, 32, kNow), code::Ok);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 5, 2, 32, kNow), code::LinkRateBeyondSfp);
+    port.sfpState = 1; // no SFP: only auto
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 1, 2, 32, kNow), code::LinkRateBeyondSfp);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 0, 2, 32, kNow), code::Ok);
+    port.sfpState = 0; // not reported: no limit known
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 5, 2, 32, kNow), code::Ok);
+}
+
+TEST_F(RulesTest, PortSettingsOutsideTheirTablesAreInvalid)
+{
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 2, 0, 2, 32, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 6, 2, 32, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, -1, 2, 32, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 0, 3, 32, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 0, 2, 0, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::setPortSettings(san, kDev0, 0, 0, 2, 65536, kNow), code::InvalidArgument);
+    EXPECT_EQ(rules::setPortSettings(san, kOffline, 0, 0, 2, 32, kNow), code::AdapterNotResponding);
+}
+
 TEST_F(RulesTest, ClusterMembershipRules)
 {
     EXPECT_EQ(rules::createCluster(san, kSanOnly, kSanOnly, kDev0, "c2", 1, kNow), code::AlreadyClusterMember);

@@ -2,7 +2,8 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/FabricFamilies.h"
+#include "commands/storage/FabricListing.h"
 
 namespace {
 
@@ -26,5 +27,5 @@ CmdDeviceList::CmdDeviceList()
 
 int CmdDeviceList::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return listFabric<DeviceFamily>(*this, err);
 }

@@ -2,7 +2,8 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/FabricFamilies.h"
+#include "commands/storage/FabricListing.h"
 
 namespace {
 
@@ -26,5 +27,5 @@ CmdInitiatorList::CmdInitiatorList()
 
 int CmdInitiatorList::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return listFabric<InitiatorFamily>(*this, err);
 }

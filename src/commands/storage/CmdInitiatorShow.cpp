@@ -2,7 +2,8 @@
 
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "commands/storage/FabricFamilies.h"
+#include "commands/storage/FabricListing.h"
 
 namespace {
 
@@ -34,5 +35,5 @@ CmdInitiatorShow::CmdInitiatorShow()
 
 int CmdInitiatorShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    return showFabric<InitiatorFamily>(*this, err);
 }

@@ -1,8 +1,11 @@
 #include "commands/storage/CmdTargetSet.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "core/ZekcliReturn.h"
+#include "records/PUniqueID.h"
 
 namespace {
 
@@ -13,6 +16,9 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, TokenModifier::REQUIRED, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+constexpr int kMinOutstandingIo = 32;
+constexpr int kMaxOutstandingIo = 2048;
 
 } // namespace
 
@@ -38,5 +44,31 @@ CmdTargetSet::CmdTargetSet()
 
 int CmdTargetSet::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    PTargetID target;
+    bool targetGiven = false;
+    if (!getTargetIdFromCommandLineModifiers(false, target, targetGiven, err))
+        return ZEKCLI_PARSE_FAIL;
+    if (!targetGiven) {
+        err = "This command requires a target - please use -fc_target=..";
+        return ZEKCLI_PARSE_FAIL;
+    }
+    int count = 0;
+    bool countGiven = false;
+    if (!getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, kMinOutstandingIo,
+                                                 kMaxOutstandingIo, count, countGiven, err))
+        return ZEKCLI_PARSE_FAIL;
+    // The frame asks for the required count before the command runs.
+    if (!countGiven)
+        return ZEKCLI_PARSE_FAIL;
+    // Only a target that the adapter sees is sent the limit, and the
+    // library's answer is not waited on: the text tells what was asked.
+    if (addressed.adapter->getTargets()->find(target))
+        addressed.adapter->setTargetMaxOutstandingIo(target, static_cast<uint32_t>(count));
+    CommandReport report;
+    report.text = "\n\t-max_outstanding_io=" + std::to_string(count) + " for -fc_target=" + target.displayText() +
+        " set successfully.";
+    return finishCommand(*this, addressed.adapter, report, err);
 }
