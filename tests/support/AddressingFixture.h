@@ -104,15 +104,14 @@ inline std::string readFile(std::filesystem::path const& path)
     return text.str();
 }
 
-// Loads the simulator with a scenario of src/addressing/testdata for the life
+// Loads the simulator with a scenario file for the life
 // of a test. `faults` replaces the scenario's empty fault list, so one file
 // can serve a test that needs an adapter to misbehave.
 class SimulatedSan {
 public:
     explicit SimulatedSan(std::string const& scenario, std::string const& faults = "[]")
     {
-        std::filesystem::path const source =
-            std::filesystem::path(ZEK_TEST_SOURCE_DIR) / "src/addressing/testdata" / (scenario + ".json");
+        std::filesystem::path const source = scenarioPath(scenario);
         std::string text = readFile(source);
         std::string const emptyFaults = "\"faults\": []";
         size_t const at = text.find(emptyFaults);
@@ -148,6 +147,16 @@ public:
             if (known->getAdapterPath()->isaHbaId() == id)
                 return known;
         return nullptr;
+    }
+
+    // A plain name is a scenario of src/addressing/testdata; a name with a
+    // directory is a file of the source tree.
+    static std::filesystem::path scenarioPath(std::string const& scenario)
+    {
+        std::filesystem::path const sources(ZEK_TEST_SOURCE_DIR);
+        if (scenario.find('/') != std::string::npos)
+            return sources / scenario;
+        return sources / "src/addressing/testdata" / (scenario + ".json");
     }
 
     // Other tests of the same program may rely on the variables as they

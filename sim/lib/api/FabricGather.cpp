@@ -56,13 +56,17 @@ const unsigned char* nameBytes(const std::string& name)
     return reinterpret_cast<const unsigned char*>(name.c_str());
 }
 
-KDeviceID targetDeviceId(const Target& t, const PTargetID& id)
+// A target's device carries the target's own name.
+KDeviceID targetDeviceId(const PTargetID& id)
 {
     KDeviceID device;
-    if (t.protocol == 2)
-        device.initIscsiDeviceID(nameBytes(t.iscsiName));
-    else
+    if (id.isIscsiTargetId()) {
+        unsigned char name[PUniqueID::DATA_SIZE + 1] = {};
+        id.getIscsiName(name, PUniqueID::DATA_SIZE);
+        device.initIscsiDeviceID(name);
+    } else {
         device.initFcDeviceID(id.getData() + 4, 8);
+    }
     return device;
 }
 
@@ -106,7 +110,7 @@ void gatherTarget(const San& san, const Adapter& a, const Target& t, SimTargetCo
     held->name = t.name;
     fillTargetInfo(san, t, a, held->info);
     gathered.meet(held);
-    SimDevice* device = deviceFor(deviceCollection, targetDeviceId(t, held->id), devices);
+    SimDevice* device = deviceFor(deviceCollection, targetDeviceId(held->id), devices);
     device->info.isTarget = true;
     device->info.isInternal = t.internal;
     device->info.target = held->info;
@@ -152,6 +156,17 @@ void gatherFabricObjects(const San& san, const Adapter& a, const Target* ownInte
     gatherTargets(san, a, ownInternal, targets, gatheredDevices, devices);
     gatherInitiators(san, a, initiators, gatheredDevices, devices);
     devices.keepOnly(gatheredDevices.order());
+}
+
+void noteTargetLimit(const PTargetID& target, u32 count, SimTargetCollection& targets, SimDeviceCollection& devices)
+{
+    SimTarget* held = targets.lookup(target);
+    if (!held)
+        return;
+    held->info.maxOutstandingIo = count;
+    SimDevice* device = devices.lookup(targetDeviceId(held->id));
+    if (device && device->info.isTarget)
+        device->info.target.maxOutstandingIo = count;
 }
 
 } // namespace sim

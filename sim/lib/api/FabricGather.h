@@ -18,4 +18,7 @@ namespace sim {
 void gatherFabricObjects(const San& san, const Adapter& a, const Target* ownInternal, SimTargetCollection& targets,
                          SimInitiatorCollection& initiators, SimDeviceCollection& devices);
 
+// Puts a target's new limit of outstanding I/O into the records held for it.
+void noteTargetLimit(const PTargetID& target, u32 count, SimTargetCollection& targets, SimDeviceCollection& devices);
+
 } // namespace sim

@@ -147,9 +147,12 @@ e_MHBA_RETURN SimAdapter::setTargetMaxOutstandingIo(const PTargetID& target, uin
     if (!t)
         return asReturn(code::ObjectNotFound);
     std::string name = t->name;
-    return asReturn(apply("setTargetMaxOutstandingIo", [&](San& s, long long now) {
-        return rules::setTargetMaxOutstandingIo(s, id_, name, count, now);
-    }));
+    int rc = apply("setTargetMaxOutstandingIo",
+                   [&](San& s, long long now) { return rules::setTargetMaxOutstandingIo(s, id_, name, count, now); });
+    // The records held from the last gathering show the new limit at once.
+    if (rc == code::Ok)
+        noteTargetLimit(target, count, targets_, devices_);
+    return asReturn(rc);
 }
 
 void SimAdapter::clearDrives()

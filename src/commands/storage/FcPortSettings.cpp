@@ -66,7 +66,8 @@ bool linkRateFromText(std::string const& text, int32_t& rate, std::string& err)
 
 bool executionThrottleFromText(std::string const& text, uint32_t& throttle, std::string& err)
 {
-    bool const digitsOnly = text.size() <= kMaxThrottleDigits && text.find_first_not_of("0123456789") == std::string::npos;
+    bool const digitsOnly =
+        text.size() <= kMaxThrottleDigits && text.find_first_not_of("0123456789") == std::string::npos;
     unsigned long const value = digitsOnly && !text.empty() ? std::stoul(text) : 0;
     if (!digitsOnly || value < kMinThrottle || value > kMaxThrottle) {
         err = "Execution Throttle must be in range " + std::to_string(kMinThrottle) + " to " +
@@ -80,7 +81,8 @@ bool executionThrottleFromText(std::string const& text, uint32_t& throttle, std:
 bool readFcPortSettings(TokenCmd& cmd, FcPortSettings& settings, std::string& err)
 {
     TokenModifierString const* const rate = cmd.findModifier(ModifierId::MODIFIER_FC_LINK_RATE, err);
-    TokenModifierString const* const throttle = rate ? cmd.findModifier(ModifierId::MODIFIER_EXEC_THROTTLE, err) : nullptr;
+    TokenModifierString const* const throttle =
+        rate ? cmd.findModifier(ModifierId::MODIFIER_EXEC_THROTTLE, err) : nullptr;
     if (!rate || !throttle)
         return false;
     if (keywordGiven(rate) && !linkRateFromText(rate->value, settings.linkRate, err))

@@ -1,0 +1,127 @@
+// Runs one real command as the frame would after parsing: in a command tree
+// with the common keywords, quiet, its text sent to a text file and its
+// result record to a result file, both read back for the test. Used with a
+// simulated SAN (AddressingFixture.h) to test commands end to end in one
+// process.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "core/TokenCmd.h"
+#include "core/TokenRoot.h"
+#include "support/TempDirectory.h"
+
+class CommandRun {
+public:
+    // The tree takes the command over.
+    explicit CommandRun(TokenCmd* command) : cmd(command)
+    {
+        root.addCommonModifiersForAllCommands(parseTreeCommonModifierInit);
+        root.addChild(command);
+        root.quiet = true;
+        root.textFileEnabled = true;
+        root.textFileName = scratch.file("text.log");
+        root.resultFileEnabled = true;
+        root.resultFileName = scratch.file("result.dat");
+    }
+
+    // Puts a value on a keyword of the command, or on a common one, as if it
+    // had been typed; a flag is given with an empty value.
+    void give(ModifierId::MODIFIER_ID id, std::string const& value = std::string())
+    {
+        std::string err;
+        TokenModifierString* keyword = cmd->findModifier(id, err);
+        ASSERT_NE(nullptr, keyword) << err;
+        keyword->setValue(value);
+    }
+    void giveAdapter(std::string const& zek) { give(ModifierId::MODIFIER_ZEK, zek); }
+
+    // Runs the command once; the text, the result record and `err` are those
+    // of this run alone.
+    int run()
+    {
+        std::filesystem::remove(root.textFileName);
+        std::filesystem::remove(root.resultFileName);
+        err.clear();
+        int const rc = cmd->execCommand(err);
+        text = readAll(root.textFileName);
+        result = readAll(root.resultFileName);
+        return rc;
+    }
+
+    bool wroteResult() const { return result.size() >= kStatusAt + 4; }
+    // The status that the result record carries.
+    uint32_t resultStatus() const { return int32At(result, kStatusAt); }
+    // The payload of the result record; empty when it has none.
+    std::string payload() const
+    {
+        if (result.size() < kPayloadAt + 4)
+            return std::string();
+        uint32_t const size = int32At(result, kSizeAt);
+        if (size < 4 || result.size() < kPayloadAt + size - 4)
+            return std::string();
+        return result.substr(kPayloadAt, size - 4);
+    }
+
+    static uint32_t int32At(std::string const& bytes, size_t at)
+    {
+        uint32_t value = 0;
+        if (at + sizeof value <= bytes.size())
+            std::memcpy(&value, bytes.data() + at, sizeof value);
+        return value;
+    }
+
+    TokenCmd* cmd;
+    std::string err;
+    std::string text;
+    std::string result;
+
+private:
+    // A result record: a 32-byte header, the status, the payload's size
+    // field (its size plus 4) and the payload.
+    static constexpr size_t kStatusAt = 32;
+    static constexpr size_t kSizeAt = 36;
+    static constexpr size_t kPayloadAt = 40;
+
+    static std::string readAll(std::string const& path)
+    {
+        std::ifstream in(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    }
+
+    TempDirectory scratch{"zek-command-run"};
+    TokenRoot root;
+};
+
+// A counted payload read back: its count and the images behind their sizes.
+struct CountedPayload {
+    uint32_t headerSize = 0;
+    uint32_t count = 0;
+    std::vector<uint32_t> entrySizes;
+    std::vector<std::string> images;
+    bool whole = false; // every entry lies inside the payload, nothing follows
+
+    explicit CountedPayload(std::string const& bytes)
+    {
+        headerSize = CommandRun::int32At(bytes, 0);
+        count = CommandRun::int32At(bytes, 4);
+        size_t at = 8;
+        for (uint32_t i = 0; i < count && at + 4 <= bytes.size(); ++i) {
+            uint32_t const size = CommandRun::int32At(bytes, at);
+            if (size < 4 || at + size > bytes.size())
+                return;
+            entrySizes.push_back(size);
+            images.push_back(bytes.substr(at + 4, size - 4));
+            at += size;
+        }
+        whole = bytes.size() >= 8 && images.size() == count && at == bytes.size();
+    }
+};
