@@ -8,7 +8,10 @@
 
 #include "commands/storage/CmdDeviceList.h"
 #include "commands/storage/CmdDeviceShow.h"
+#include "commands/storage/CmdFcBasicSet.h"
+#include "commands/storage/CmdFcBasicShow.h"
 #include "commands/storage/CmdFcDisable.h"
+#include "commands/storage/CmdFcEnable.h"
 #include "commands/storage/CmdInitiatorList.h"
 #include "commands/storage/CmdInitiatorShow.h"
 #include "commands/storage/CmdTargetList.h"
@@ -18,6 +21,7 @@
 #include "core/ZekcliReturn.h"
 #include "support/AddressingFixture.h"
 #include "support/CommandRun.h"
+#include "support/FakeHbaMgmtApi.h"
 
 using addressing_test::SimulatedSan;
 
@@ -32,8 +36,7 @@ std::string partialFault(int firstError)
         std::to_string(firstError) + "}]";
 }
 
-std::string const kGatheringFails =
-    R"([{"adapter": "A0", "operation": "getTargetsAndInitiators", "code": 1006}])";
+std::string const kGatheringFails = R"([{"adapter": "A0", "operation": "getTargetsAndInitiators", "code": 1006}])";
 
 PTargetID fcTarget(std::string const& text)
 {
@@ -68,7 +71,32 @@ std::string const kTargetP1 = "-fc_target=5000-0000-0000-0001\n"
                               "    Target State = online, mapped, FC1\n"
                               "    Target Portal Mode = FCP\n";
 
+// A library that accepts every adapter path but holds no adapter.
+class AdapterNotHeldApi : public FakeHbaMgmtApi {
+public:
+    e_MHBA_RETURN checkAdapterPath(KIsaAdapterPath&) override { return MHBA_S_OK; }
+};
+
 } // namespace
+
+TEST(FabricAndPortCommands, AnAdapterTheLibraryDoesNotHoldIsNotFound)
+{
+    AdapterNotHeldApi api;
+    HbaMgmtApi* const previous = g_pHbaMgmtApi;
+    g_pHbaMgmtApi = &api;
+    std::vector<TokenCmd*> const commands = {new CmdFcBasicShow, new CmdFcBasicSet,    new CmdFcEnable,
+                                             new CmdFcDisable,   new CmdTargetList,    new CmdTargetShow,
+                                             new CmdTargetSet,   new CmdInitiatorList, new CmdInitiatorShow,
+                                             new CmdDeviceList,  new CmdDeviceShow};
+    for (TokenCmd* command : commands) {
+        CommandRun run(command);
+        run.giveAdapter("0");
+        EXPECT_EQ(1004, run.run()) << command->ugCommandLowCase();
+        EXPECT_EQ("", run.text);
+        EXPECT_FALSE(run.wroteResult());
+    }
+    g_pHbaMgmtApi = previous;
+}
 
 TEST(CmdTargetList, ListsTheTargetsButNotTheAdaptersOwnAndGivesAllInTheResult)
 {
@@ -185,9 +213,10 @@ TEST(CmdTargetShow, AllTargetsAreShownButTheResultCountsNone)
     ASSERT_EQ(0, run->run()) << run->err;
     std::string const head = kBanner + kTargetP1 + "\n\n-fc_target=5000-0000-0000-0002\n";
     EXPECT_EQ(head, run->text.substr(0, head.size()));
-    EXPECT_NE(std::string::npos, run->text.find("    Target State = online, mapped, FC1/FC2\n"
-                                                "    Target Portal Mode = FCP\n"
-                                                "    Max Outstanding IO = 256\n\n\n"));
+    EXPECT_NE(std::string::npos,
+              run->text.find("    Target State = online, mapped, FC1/FC2\n"
+                             "    Target Portal Mode = FCP\n"
+                             "    Max Outstanding IO = 256\n\n\n"));
     EXPECT_EQ(std::string::npos, run->text.find("2100-0000-0000-00A0"));
     EXPECT_EQ(0u, run->resultStatus());
     CountedPayload const payload(run->payload());
@@ -202,8 +231,8 @@ TEST(CmdTargetShow, APartialGatheringIsToldAheadOfTheTargets)
     ADDRESSING_REQUIRE_SIMULATOR(san);
     auto run = onDevice0<CmdTargetShow>();
     ASSERT_EQ(0, run->run()) << run->err;
-    std::string const head =
-        kBanner + "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
+    std::string const head = kBanner +
+        "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
         g_pHbaMgmtApi->returnCodeToText(1206) + "\n" + kTargetP1;
     EXPECT_EQ(head, run->text.substr(0, head.size()));
     EXPECT_EQ(2u, run->resultStatus());
@@ -250,8 +279,7 @@ TEST(CmdTargetSet, ATargetTheAdapterDoesNotSeeIsReportedButNotSent)
     run->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-00FF");
     run->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64");
     ASSERT_EQ(0, run->run()) << run->err;
-    EXPECT_EQ(kBanner + "\n\t-max_outstanding_io=64 for -fc_target=5000-0000-0000-00FF set successfully.\n",
-              run->text);
+    EXPECT_EQ(kBanner + "\n\t-max_outstanding_io=64 for -fc_target=5000-0000-0000-00FF set successfully.\n", run->text);
     // The library was never asked: the fault waits for the first call.
     auto known = onDevice0<CmdTargetSet>();
     known->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
@@ -487,9 +515,10 @@ TEST(FabricRegathering, DevicesShowWhatTheLatestGatheringFound)
     ASSERT_EQ(0, set->run());
     auto all = onDevice0<CmdDeviceShow>();
     ASSERT_EQ(0, all->run());
-    EXPECT_NE(std::string::npos, all->text.find("    Target State = online, mapped, FC1\n"
-                                                "    Target Portal Mode = FCP\n"
-                                                "    Max Outstanding IO = 512\n"));
+    EXPECT_NE(std::string::npos,
+              all->text.find("    Target State = online, mapped, FC1\n"
+                             "    Target Portal Mode = FCP\n"
+                             "    Max Outstanding IO = 512\n"));
 }
 
 TEST(FabricNames, InitiatorsAndDevicesAreNamedFromTheirRecords)

@@ -227,7 +227,7 @@ TEST(CmdFcBasicSet, ARateTheSfpCannotCarryIsTheLibrarysRefusal)
     EXPECT_EQ(64u, now.executionThrottle);
 }
 
-TEST(CmdFcBasicSet, TheReadBackAfterTheChangeCanFailToo)
+TEST(CmdFcBasicSet, AnAdapterThatStopsAnsweringGivesItsCodeAndNoText)
 {
     SimulatedSan san(kFabric, R"([{"adapter": "A0", "operation": "getFcInfo", "code": 1006, "once": false}])");
     ADDRESSING_REQUIRE_SIMULATOR(san);
@@ -235,6 +235,7 @@ TEST(CmdFcBasicSet, TheReadBackAfterTheChangeCanFailToo)
     run.giveAdapter("0");
     run.give(ModifierId::MODIFIER_PORT, "1");
     EXPECT_EQ(1006, run.run());
+    EXPECT_EQ("", run.text);
     EXPECT_FALSE(run.wroteResult());
 }
 

@@ -121,8 +121,8 @@ TEST(FcPortSettingsKeywords, EachKeywordChangesItsOwnSetting)
         CommandRun run(new CmdFcBasicSet);
         run.give(c.keyword, c.value);
         FcPortSettings settings = current();
-        settings.connectionOption = c.keyword == ModifierId::MODIFIER_AUTO ? KFcInfo::CONNECTION_OPTION_LOOP_ONLY
-                                                                            : settings.connectionOption;
+        settings.connectionOption =
+            c.keyword == ModifierId::MODIFIER_AUTO ? KFcInfo::CONNECTION_OPTION_LOOP_ONLY : settings.connectionOption;
         std::string err;
         ASSERT_TRUE(readFcPortSettings(*run.cmd, settings, err)) << err;
         EXPECT_EQ(c.rate, settings.linkRate) << c.value;
