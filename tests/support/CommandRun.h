@@ -11,12 +11,16 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <iterator>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/TokenCmd.h"
 #include "core/TokenRoot.h"
+#include "support/AddressingFixture.h"
 #include "support/TempDirectory.h"
 
 class CommandRun {
@@ -124,4 +128,52 @@ struct CountedPayload {
         }
         whole = bytes.size() >= 8 && images.size() == count && at == bytes.size();
     }
+};
+
+// Tests that run commands on one adapter of a scenario of the simulated SAN,
+// loaded afresh for each test, by default without faults.
+class CommandsOnSimulatedSan : public ::testing::Test {
+protected:
+    using Keywords = std::initializer_list<std::pair<ModifierId::MODIFIER_ID, char const*>>;
+
+    CommandsOnSimulatedSan(std::string scenarioFile, std::string zek)
+        : scenario(std::move(scenarioFile)), adapter(std::move(zek))
+    {}
+    void SetUp() override { load("[]"); }
+    // Starts again from the scenario with these faults.
+    void load(std::string const& faults)
+    {
+        san.reset();
+        san = std::make_unique<addressing_test::SimulatedSan>(scenario, faults);
+        ADDRESSING_REQUIRE_SIMULATOR(*san);
+    }
+
+    // Runs a command on the adapter with these keywords, expecting `code`.
+    template <typename Command>
+    std::unique_ptr<CommandRun> ran(Keywords keywords, int code = 0)
+    {
+        auto run = std::make_unique<CommandRun>(new Command);
+        run->giveAdapter(adapter);
+        for (auto const& [keyword, value] : keywords)
+            run->give(keyword, value);
+        EXPECT_EQ(code, run->run()) << run->err;
+        return run;
+    }
+
+    // The counted result of a run: whole, with `count` entries of one size.
+    static CountedPayload counted(CommandRun const& run, uint32_t count, uint32_t entrySize)
+    {
+        CountedPayload payload(run.payload());
+        EXPECT_TRUE(payload.whole);
+        EXPECT_EQ(8u, payload.headerSize);
+        EXPECT_EQ(count, payload.count);
+        for (uint32_t size : payload.entrySizes)
+            EXPECT_EQ(entrySize, size);
+        return payload;
+    }
+
+private:
+    std::string scenario;
+    std::string adapter;
+    std::unique_ptr<addressing_test::SimulatedSan> san;
 };

@@ -70,24 +70,29 @@ KDeviceID targetDeviceId(const PTargetID& id)
     return device;
 }
 
+// An initiator's name in one of the identifiers that carry a protocol and a
+// name: its own, and that of its device.
+template <class Id>
+Id initiatorName(const Initiator& i, void (Id::*initIscsi)(const unsigned char*),
+                 void (Id::*initFc)(const std::string&))
+{
+    Id id;
+    if (i.protocol == 2)
+        (id.*initIscsi)(nameBytes(i.iscsiName));
+    else
+        (id.*initFc)(i.wwpn);
+    return id;
+}
+
 KDeviceID initiatorDeviceId(const Initiator& i)
 {
-    KDeviceID device;
-    if (i.protocol == 2)
-        device.initIscsiDeviceID(nameBytes(i.iscsiName));
-    else
-        device.initFcDeviceIDFromString(i.wwpn);
-    return device;
+    return initiatorName<KDeviceID>(i, &KDeviceID::initIscsiDeviceID, &KDeviceID::initFcDeviceIDFromString);
 }
 
 PInitiatorID initiatorId(const Initiator& i)
 {
-    PInitiatorID id;
-    if (i.protocol == 2)
-        id.initIscsiInitiatorID(nameBytes(i.iscsiName));
-    else
-        id.initFcInitiatorIDFromString(i.wwpn);
-    return id;
+    return initiatorName<PInitiatorID>(i, &PInitiatorID::initIscsiInitiatorID,
+                                       &PInitiatorID::initFcInitiatorIDFromString);
 }
 
 bool initiatorSeenBy(const Initiator& i, const Adapter& a)

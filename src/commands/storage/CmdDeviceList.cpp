@@ -23,6 +23,9 @@ CmdDeviceList::CmdDeviceList()
     helpModifiers = adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0";
     helpResultFile = listResultHelp("KDeviceID", 288, "device identifier");
+    helpNotes = "The adapter's own internal devices are not listed; the result holds every device, those too. When "
+                "the adapter could gather only some devices, no list is shown, only the reason, and the result "
+                "carries status 2.";
 }
 
 int CmdDeviceList::execCommand(std::string& err)

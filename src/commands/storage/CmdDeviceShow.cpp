@@ -31,6 +31,9 @@ CmdDeviceShow::CmdDeviceShow()
         adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -fc_device=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KDeviceInfo", 848, "device record");
+    helpNotes = "Without -fc_device or -is_device every device is shown, and the result holds all their records, "
+                "the adapter's own internal devices too. A device that is both a target and an initiator shows "
+                "both parts.";
 }
 
 int CmdDeviceShow::execCommand(std::string& err)

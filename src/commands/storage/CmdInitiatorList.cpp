@@ -23,6 +23,8 @@ CmdInitiatorList::CmdInitiatorList()
     helpModifiers = adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0";
     helpResultFile = listResultHelp("PInitiatorID", 288, "initiator identifier");
+    helpNotes = "When the adapter could gather only some initiators, no list is shown, only the reason, and the "
+                "result carries status 2.";
 }
 
 int CmdInitiatorList::execCommand(std::string& err)

@@ -31,6 +31,8 @@ CmdInitiatorShow::CmdInitiatorShow()
         adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -fc_initiator=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KInitiatorInfo", 464, "initiator record");
+    helpNotes = "Without -fc_initiator or -is_initiator every initiator is shown, and the result holds all their "
+                "records.";
 }
 
 int CmdInitiatorShow::execCommand(std::string& err)

@@ -23,6 +23,9 @@ CmdTargetList::CmdTargetList()
     helpModifiers = adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0";
     helpResultFile = listResultHelp("PTargetID", 288, "target identifier");
+    helpNotes = "The adapter's own internal targets are not listed; the result holds every target, those too. When "
+                "the adapter could gather only some targets, no list is shown, only the reason, and the result "
+                "carries status 2.";
 }
 
 int CmdTargetList::execCommand(std::string& err)

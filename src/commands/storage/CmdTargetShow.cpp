@@ -31,6 +31,7 @@ CmdTargetShow::CmdTargetShow()
         adapterHelp();
     helpExamples = ugCommandPrompt() + "-zek=0" + ugCommandPrompt() + "-zek=0 -fc_target=5006-0160-3BE0-1234";
     helpResultFile = listResultHelp("KTargetInfo", 288, "target record");
+    helpNotes = "Without -fc_target or -is_target every target is shown, and the result holds no records.";
 }
 
 int CmdTargetShow::execCommand(std::string& err)

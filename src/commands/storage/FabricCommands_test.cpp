@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <memory>
 
 #include "commands/storage/CmdDeviceList.h"
 #include "commands/storage/CmdDeviceShow.h"
@@ -22,8 +23,6 @@
 #include "support/AddressingFixture.h"
 #include "support/CommandRun.h"
 #include "support/FakeHbaMgmtApi.h"
-
-using addressing_test::SimulatedSan;
 
 namespace {
 
@@ -54,14 +53,10 @@ Record imageOf(std::string const& image)
     return record;
 }
 
-// A command of the fabric, addressed to device 0.
-template <typename Command>
-std::unique_ptr<CommandRun> onDevice0()
-{
-    auto run = std::make_unique<CommandRun>(new Command);
-    run->giveAdapter("0");
-    return run;
-}
+class FabricSan : public CommandsOnSimulatedSan {
+protected:
+    FabricSan() : CommandsOnSimulatedSan(kFabric, "0") {}
+};
 
 std::string const kTargetP1 = "-fc_target=5000-0000-0000-0001\n"
                               "FC Target \n"
@@ -98,12 +93,9 @@ TEST(FabricAndPortCommands, AnAdapterTheLibraryDoesNotHoldIsNotFound)
     g_pHbaMgmtApi = previous;
 }
 
-TEST(CmdTargetList, ListsTheTargetsButNotTheAdaptersOwnAndGivesAllInTheResult)
+TEST_F(FabricSan, ListTargetShowsTheTargetsButNotTheAdaptersOwnAndGivesAllInTheResult)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetList>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdTargetList>({});
     EXPECT_EQ(kBanner +
                   "Target count = 5\n"
                   "-fc_target=5000-0000-0000-0001\n"
@@ -114,103 +106,73 @@ TEST(CmdTargetList, ListsTheTargetsButNotTheAdaptersOwnAndGivesAllInTheResult)
                   "\n\n\n",
               run->text);
     EXPECT_EQ(0u, run->resultStatus());
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    EXPECT_EQ(8u, payload.headerSize);
-    ASSERT_EQ(6u, payload.count);
-    for (uint32_t size : payload.entrySizes)
-        EXPECT_EQ(292u, size);
+    CountedPayload const payload = counted(*run, 6, 292);
+    ASSERT_EQ(6u, payload.images.size());
     EXPECT_TRUE(imageOf<PTargetID>(payload.images[0]) == fcTarget("5000-0000-0000-0001"));
     EXPECT_TRUE(imageOf<PTargetID>(payload.images[4]) == fcTarget("2100-0000-0000-00A0"));
 }
 
-TEST(CmdTargetList, APartialGatheringShowsOnlyItsNoticeAndGivesEveryTarget)
+TEST_F(FabricSan, ListTargetAfterAPartialGatheringShowsOnlyItsNoticeAndGivesEveryTarget)
 {
-    SimulatedSan san(kFabric, partialFault(1006));
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetList>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    load(partialFault(1006));
+    auto run = ran<CmdTargetList>({});
     EXPECT_EQ(kBanner +
                   "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
                   g_pHbaMgmtApi->returnCodeToText(1006) + "\n\n\n\n",
               run->text);
     EXPECT_EQ(2u, run->resultStatus());
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    EXPECT_EQ(6u, payload.count);
+    counted(*run, 6, 292);
 }
 
-TEST(CmdTargetList, AFailedGatheringIsReturnedWithNothingShown)
+TEST_F(FabricSan, ListTargetReturnsAFailedGatheringWithNothingShown)
 {
-    SimulatedSan san(kFabric, kGatheringFails);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetList>();
-    EXPECT_EQ(1006, run->run());
+    load(kGatheringFails);
+    auto run = ran<CmdTargetList>({}, 1006);
     EXPECT_EQ("", run->text);
     EXPECT_FALSE(run->wroteResult());
 }
 
-TEST(CmdTargetList, AnAdapterWithOnlyItsOwnTargetCountsNone)
+TEST_F(FabricSan, ListTargetOfAnAdapterWithOneOwnTargetCountsTheOthers)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
     auto run = std::make_unique<CommandRun>(new CmdTargetList);
     run->giveAdapter("1"); // B0 has one port and sees p1, both, vault and peer there
     ASSERT_EQ(0, run->run());
     EXPECT_NE(std::string::npos, run->text.find("Target count = 4\n"));
 }
 
-TEST(CmdTargetShow, OneTargetByNameWithItsRecordInTheResult)
+TEST_F(FabricSan, ShowTargetByNameGivesItsRecordInTheResult)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetShow>();
-    run->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}});
     EXPECT_EQ(kBanner + kTargetP1 + "\n", run->text);
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    ASSERT_EQ(1u, payload.count);
-    EXPECT_EQ(292u, payload.entrySizes[0]);
+    CountedPayload const payload = counted(*run, 1, 292);
+    ASSERT_EQ(1u, payload.images.size());
     KTargetInfo const info = imageOf<KTargetInfo>(payload.images[0]);
     EXPECT_TRUE(info.isFcTarget());
     EXPECT_TRUE(info.isDiscoveredOnPort_1());
     EXPECT_FALSE(info.isDiscoveredOnPort_2());
 }
 
-TEST(CmdTargetShow, ATargetTheAdapterDoesNotSeeIsNotFound)
+TEST_F(FabricSan, ShowTargetOfATargetTheAdapterDoesNotSeeIsNotFound)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetShow>();
-    run->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-00FF");
-    EXPECT_EQ(1206, run->run());
+    auto run = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-00FF"}}, 1206);
     EXPECT_EQ("Target \"5000-0000-0000-00FF\" not found", run->err);
     EXPECT_EQ("", run->text);
     EXPECT_FALSE(run->wroteResult());
 }
 
-TEST(CmdTargetShow, BadNamesAreParseFailures)
+TEST_F(FabricSan, ShowTargetRefusesBadNames)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto text = onDevice0<CmdTargetShow>();
-    text->give(ModifierId::MODIFIER_FC_TARGET, "xyz");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, text->run());
+    auto text = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "xyz"}}, ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("xyz\" is not valid text for an FC target", text->err);
-    auto both = onDevice0<CmdTargetShow>();
-    both->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    both->give(ModifierId::MODIFIER_IS_TARGET, "iqn.2020-01.com.sim:vault");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, both->run());
+    auto both = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"},
+                                    {ModifierId::MODIFIER_IS_TARGET, "iqn.2020-01.com.sim:vault"}},
+                                   ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("Only one of -is_target or -fc_target can be used", both->err);
 }
 
-TEST(CmdTargetShow, AllTargetsAreShownButTheResultCountsNone)
+TEST_F(FabricSan, ShowTargetOfAllShowsThemButTheResultCountsNone)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetShow>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdTargetShow>({});
     std::string const head = kBanner + kTargetP1 + "\n\n-fc_target=5000-0000-0000-0002\n";
     EXPECT_EQ(head, run->text.substr(0, head.size()));
     EXPECT_NE(std::string::npos,
@@ -219,18 +181,13 @@ TEST(CmdTargetShow, AllTargetsAreShownButTheResultCountsNone)
                              "    Max Outstanding IO = 256\n\n\n"));
     EXPECT_EQ(std::string::npos, run->text.find("2100-0000-0000-00A0"));
     EXPECT_EQ(0u, run->resultStatus());
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    EXPECT_EQ(8u, payload.headerSize);
-    EXPECT_EQ(0u, payload.count);
+    counted(*run, 0, 0);
 }
 
-TEST(CmdTargetShow, APartialGatheringIsToldAheadOfTheTargets)
+TEST_F(FabricSan, ShowTargetTellsOfAPartialGatheringAheadOfTheTargets)
 {
-    SimulatedSan san(kFabric, partialFault(1206));
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetShow>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    load(partialFault(1206));
+    auto run = ran<CmdTargetShow>({});
     std::string const head = kBanner +
         "getTargetsAndInitiators() returned partial success.  At least one attempt to get info returned " +
         g_pHbaMgmtApi->returnCodeToText(1206) + "\n" + kTargetP1;
@@ -238,87 +195,60 @@ TEST(CmdTargetShow, APartialGatheringIsToldAheadOfTheTargets)
     EXPECT_EQ(2u, run->resultStatus());
 }
 
-TEST(CmdTargetSet, SetsTheLimitThatShowTargetThenShows)
+TEST_F(FabricSan, SetTargetSetsTheLimitThatShowTargetThenShows)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
     for (char const* count : {"32", "2048"}) {
-        auto run = onDevice0<CmdTargetSet>();
-        run->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-        run->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, count);
-        ASSERT_EQ(0, run->run()) << run->err;
+        auto run = ran<CmdTargetSet>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"},
+                                      {ModifierId::MODIFIER_MAX_OUTSTANDING_IO, count}});
         EXPECT_EQ(kBanner + "\n\t-max_outstanding_io=" + count +
                       " for -fc_target=5000-0000-0000-0001 set successfully.\n",
                   run->text);
         EXPECT_TRUE(run->wroteResult());
         EXPECT_EQ("", run->payload());
     }
-    auto show = onDevice0<CmdTargetShow>();
-    show->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    ASSERT_EQ(0, show->run());
+    auto show = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}});
     EXPECT_NE(std::string::npos, show->text.find("    Max Outstanding IO = 2048\n"));
 }
 
-TEST(CmdTargetSet, AnIscsiTargetIsNamedAfterTheFcKeywordInTheText)
+TEST_F(FabricSan, SetTargetNamesAnIscsiTargetAfterTheFcKeywordInTheText)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetSet>();
-    run->give(ModifierId::MODIFIER_IS_TARGET, "iqn.2020-01.com.sim:vault");
-    run->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64");
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdTargetSet>({{ModifierId::MODIFIER_IS_TARGET, "iqn.2020-01.com.sim:vault"},
+                                  {ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64"}});
     EXPECT_EQ(kBanner + "\n\t-max_outstanding_io=64 for -fc_target=iqn.2020-01.com.sim:vault set successfully.\n",
               run->text);
 }
 
-TEST(CmdTargetSet, ATargetTheAdapterDoesNotSeeIsReportedButNotSent)
+TEST_F(FabricSan, SetTargetReportsATargetTheAdapterDoesNotSeeButSendsItNothing)
 {
-    SimulatedSan san(kFabric, R"([{"adapter": "A0", "operation": "setTargetMaxOutstandingIo", "code": 1000}])");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdTargetSet>();
-    run->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-00FF");
-    run->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64");
-    ASSERT_EQ(0, run->run()) << run->err;
+    load(R"([{"adapter": "A0", "operation": "setTargetMaxOutstandingIo", "code": 1000}])");
+    auto run = ran<CmdTargetSet>(
+        {{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-00FF"}, {ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64"}});
     EXPECT_EQ(kBanner + "\n\t-max_outstanding_io=64 for -fc_target=5000-0000-0000-00FF set successfully.\n", run->text);
     // The library was never asked: the fault waits for the first call.
-    auto known = onDevice0<CmdTargetSet>();
-    known->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    known->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64");
-    ASSERT_EQ(0, known->run());
-    auto show = onDevice0<CmdTargetShow>();
-    show->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    ASSERT_EQ(0, show->run());
+    ran<CmdTargetSet>(
+        {{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}, {ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64"}});
+    auto show = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}});
     EXPECT_EQ(std::string::npos, show->text.find("Max Outstanding IO"));
 }
 
-TEST(CmdTargetSet, RefusalsOfTheTargetAndTheCount)
+TEST_F(FabricSan, SetTargetRefusesAMissingTargetAndACountOutOfRange)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto noTarget = onDevice0<CmdTargetSet>();
-    noTarget->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, noTarget->run());
+    auto noTarget = ran<CmdTargetSet>({{ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "64"}}, ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("This command requires a target - please use -fc_target=..", noTarget->err);
     for (char const* count : {"31", "2049"}) {
-        auto run = onDevice0<CmdTargetSet>();
-        run->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-        run->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, count);
-        EXPECT_EQ(ZEKCLI_PARSE_FAIL, run->run());
+        auto run = ran<CmdTargetSet>(
+            {{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}, {ModifierId::MODIFIER_MAX_OUTSTANDING_IO, count}},
+            ZEKCLI_PARSE_FAIL);
         EXPECT_EQ("-max_outstanding_io modifier requires a number in the range 32 to 2048", run->err);
         EXPECT_EQ("", run->text);
     }
-    auto noCount = onDevice0<CmdTargetSet>();
-    noCount->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, noCount->run());
+    auto noCount = ran<CmdTargetSet>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}}, ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("", noCount->text);
 }
 
-TEST(CmdInitiatorList, NamesEachInitiatorByItsProtocol)
+TEST_F(FabricSan, ListInitiatorNamesEachInitiatorByItsProtocol)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdInitiatorList>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdInitiatorList>({});
     EXPECT_EQ(kBanner +
                   "Initiator count = 3\n"
                   "-fc_initiator=1000-0000-0000-0001\n"
@@ -326,22 +256,16 @@ TEST(CmdInitiatorList, NamesEachInitiatorByItsProtocol)
                   "-is_initiator=iqn.1994-05.com.sim:host\n"
                   "\n\n\n",
               run->text);
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    ASSERT_EQ(3u, payload.count);
-    EXPECT_EQ(292u, payload.entrySizes[2]);
+    CountedPayload const payload = counted(*run, 3, 292);
+    ASSERT_EQ(3u, payload.images.size());
     PInitiatorID expected;
     expected.initIscsiInitiatorID(reinterpret_cast<unsigned char const*>("iqn.1994-05.com.sim:host"));
     EXPECT_TRUE(imageOf<PInitiatorID>(payload.images[2]) == expected);
 }
 
-TEST(CmdInitiatorShow, OneInitiatorStartsItsHeadingOnALineOfItsOwn)
+TEST_F(FabricSan, ShowInitiatorStartsTheHeadingOnALineOfItsOwn)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdInitiatorShow>();
-    run->give(ModifierId::MODIFIER_FC_INITIATOR, "2100-0000-0000-00B0");
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdInitiatorShow>({{ModifierId::MODIFIER_FC_INITIATOR, "2100-0000-0000-00B0"}});
     EXPECT_EQ(kBanner +
                   "\n-fc_initiator=2100-0000-0000-00B0\n"
                   "    -wwpn=2100-0000-0000-00B0 -wwnn=2000-0000-0000-00B0\n"
@@ -351,46 +275,31 @@ TEST(CmdInitiatorShow, OneInitiatorStartsItsHeadingOnALineOfItsOwn)
                   "    Operational State = Logged In, Target, DM\n"
                   "\n",
               run->text);
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    ASSERT_EQ(1u, payload.count);
-    EXPECT_EQ(468u, payload.entrySizes[0]);
+    CountedPayload const payload = counted(*run, 1, 468);
+    ASSERT_EQ(1u, payload.images.size());
     EXPECT_TRUE(imageOf<KInitiatorInfo>(payload.images[0]).isDmInitiator());
 }
 
-TEST(CmdInitiatorShow, AllInitiatorsAreShownAndAllAreInTheResult)
+TEST_F(FabricSan, ShowInitiatorOfAllGivesAllInTheResult)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdInitiatorShow>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdInitiatorShow>({});
     EXPECT_NE(std::string::npos, run->text.find("    Operational State = Logged Out\n\n\n"));
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    EXPECT_EQ(3u, payload.count);
+    counted(*run, 3, 468);
 }
 
-TEST(CmdInitiatorShow, AnUnknownOrDoublyNamedInitiatorIsRefused)
+TEST_F(FabricSan, ShowInitiatorRefusesAnUnknownOrDoublyNamedInitiator)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto unknown = onDevice0<CmdInitiatorShow>();
-    unknown->give(ModifierId::MODIFIER_IS_INITIATOR, "iqn.nobody");
-    EXPECT_EQ(1206, unknown->run());
+    auto unknown = ran<CmdInitiatorShow>({{ModifierId::MODIFIER_IS_INITIATOR, "iqn.nobody"}}, 1206);
     EXPECT_EQ("Initiator \"iqn.nobody\" not found", unknown->err);
-    auto both = onDevice0<CmdInitiatorShow>();
-    both->give(ModifierId::MODIFIER_IS_INITIATOR, "iqn.nobody");
-    both->give(ModifierId::MODIFIER_FC_INITIATOR, "1000-0000-0000-0001");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, both->run());
+    auto both = ran<CmdInitiatorShow>(
+        {{ModifierId::MODIFIER_IS_INITIATOR, "iqn.nobody"}, {ModifierId::MODIFIER_FC_INITIATOR, "1000-0000-0000-0001"}},
+        ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("Only one of -is_initiator or -fc_initiator can be used", both->err);
 }
 
-TEST(CmdDeviceList, SkipsTheAdaptersOwnDeviceButGivesItInTheResult)
+TEST_F(FabricSan, ListDeviceSkipsTheAdaptersOwnDeviceButGivesItInTheResult)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdDeviceList>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdDeviceList>({});
     EXPECT_EQ(kBanner +
                   "Device count = 7\n"
                   "-fc_device=5000-0000-0000-0001\n"
@@ -402,21 +311,16 @@ TEST(CmdDeviceList, SkipsTheAdaptersOwnDeviceButGivesItInTheResult)
                   "-is_device=iqn.1994-05.com.sim:host\n"
                   "\n\n\n",
               run->text);
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    ASSERT_EQ(8u, payload.count);
+    CountedPayload const payload = counted(*run, 8, 292);
+    ASSERT_EQ(8u, payload.images.size());
     KDeviceID own;
     own.initFcDeviceIDFromString("2100-0000-0000-00A0");
     EXPECT_TRUE(imageOf<KDeviceID>(payload.images[4]) == own);
 }
 
-TEST(CmdDeviceShow, ADeviceThatIsTargetAndInitiatorShowsBothParts)
+TEST_F(FabricSan, ShowDeviceOfATargetThatIsAlsoAnInitiatorShowsBothParts)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdDeviceShow>();
-    run->give(ModifierId::MODIFIER_FC_DEVICE, "2100-0000-0000-00B0");
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdDeviceShow>({{ModifierId::MODIFIER_FC_DEVICE, "2100-0000-0000-00B0"}});
     EXPECT_EQ(kBanner +
                   "-fc_device=2100-0000-0000-00B0\n"
                   "FC Target \n"
@@ -431,90 +335,58 @@ TEST(CmdDeviceShow, ADeviceThatIsTargetAndInitiatorShowsBothParts)
                   "    Operational State = Logged In, Target, DM\n"
                   "\n",
               run->text);
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    ASSERT_EQ(1u, payload.count);
-    EXPECT_EQ(852u, payload.entrySizes[0]);
+    CountedPayload const payload = counted(*run, 1, 852);
+    ASSERT_EQ(1u, payload.images.size());
     KDeviceInfo const info = imageOf<KDeviceInfo>(payload.images[0]);
     EXPECT_TRUE(info.isTarget);
     EXPECT_TRUE(info.isInitiator);
 }
 
-TEST(CmdDeviceShow, AllDevicesIncludingTheAdaptersOwnAreInTheResult)
+TEST_F(FabricSan, ShowDeviceOfAllGivesEveryDeviceInTheResultTheAdaptersOwnToo)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto run = onDevice0<CmdDeviceShow>();
-    ASSERT_EQ(0, run->run()) << run->err;
+    auto run = ran<CmdDeviceShow>({});
     EXPECT_EQ(std::string::npos, run->text.find("-fc_device=2100-0000-0000-00A0"));
-    CountedPayload const payload(run->payload());
-    ASSERT_TRUE(payload.whole);
-    EXPECT_EQ(8u, payload.count);
+    CountedPayload const payload = counted(*run, 8, 852);
+    ASSERT_EQ(8u, payload.images.size());
     EXPECT_TRUE(imageOf<KDeviceInfo>(payload.images[4]).isInternal);
 }
 
-TEST(CmdDeviceShow, UnknownAndDoublyNamedDevicesAreRefused)
+TEST_F(FabricSan, ShowDeviceRefusesUnknownDoublyNamedAndUnreadableDevices)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto unknown = onDevice0<CmdDeviceShow>();
-    unknown->give(ModifierId::MODIFIER_FC_DEVICE, "5000-0000-0000-00FF");
-    EXPECT_EQ(1206, unknown->run());
+    auto unknown = ran<CmdDeviceShow>({{ModifierId::MODIFIER_FC_DEVICE, "5000-0000-0000-00FF"}}, 1206);
     EXPECT_EQ("Device \"5000-0000-0000-00FF\" not found", unknown->err);
-    auto both = onDevice0<CmdDeviceShow>();
-    both->give(ModifierId::MODIFIER_FC_DEVICE, "5000-0000-0000-0001");
-    both->give(ModifierId::MODIFIER_IS_DEVICE, "iqn.2020-01.com.sim:vault");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, both->run());
+    auto both = ran<CmdDeviceShow>({{ModifierId::MODIFIER_FC_DEVICE, "5000-0000-0000-0001"},
+                                    {ModifierId::MODIFIER_IS_DEVICE, "iqn.2020-01.com.sim:vault"}},
+                                   ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("Only one of -is_device or -fc_device can be used", both->err);
-    auto text = onDevice0<CmdDeviceShow>();
-    text->give(ModifierId::MODIFIER_FC_DEVICE, "xyz");
-    EXPECT_EQ(ZEKCLI_PARSE_FAIL, text->run());
+    auto text = ran<CmdDeviceShow>({{ModifierId::MODIFIER_FC_DEVICE, "xyz"}}, ZEKCLI_PARSE_FAIL);
     EXPECT_EQ("Please specify -is_device or -fc_device", text->err);
 }
 
-TEST(FabricRegathering, APortThatGoesDownTakesItsTargetsOutOfSight)
+TEST_F(FabricSan, APortThatGoesDownTakesItsTargetsOutOfSight)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto before = onDevice0<CmdTargetList>();
-    ASSERT_EQ(0, before->run());
-    auto disable = onDevice0<CmdFcDisable>();
-    disable->give(ModifierId::MODIFIER_PORT, "1");
-    ASSERT_EQ(0, disable->run()) << disable->err;
-
-    auto after = onDevice0<CmdTargetList>();
-    ASSERT_EQ(0, after->run());
+    ran<CmdTargetList>({});
+    ran<CmdFcDisable>({{ModifierId::MODIFIER_PORT, "1"}});
+    auto after = ran<CmdTargetList>({});
     EXPECT_EQ(kBanner +
                   "Target count = 2\n"
                   "-fc_target=5000-0000-0000-0002\n"
                   "-fc_target=5000-0000-0000-0003\n"
                   "\n\n\n",
               after->text);
-    EXPECT_EQ(3u, CountedPayload(after->payload()).count); // and the adapter's own, on port 2 too
-
-    auto gone = onDevice0<CmdTargetShow>();
-    gone->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    EXPECT_EQ(1206, gone->run());
-    auto both = onDevice0<CmdTargetShow>();
-    both->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0003");
-    ASSERT_EQ(0, both->run());
+    counted(*after, 3, 292); // and the adapter's own, on port 2 too
+    ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}}, 1206);
+    auto both = ran<CmdTargetShow>({{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0003"}});
     EXPECT_NE(std::string::npos, both->text.find("    Target State = online, mapped, FC2\n"));
 }
 
-TEST(FabricRegathering, DevicesShowWhatTheLatestGatheringFound)
+TEST_F(FabricSan, DevicesShowWhatTheLatestGatheringFound)
 {
-    SimulatedSan san(kFabric);
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    auto first = onDevice0<CmdDeviceShow>();
-    first->give(ModifierId::MODIFIER_FC_DEVICE, "5000-0000-0000-0001");
-    ASSERT_EQ(0, first->run());
+    auto first = ran<CmdDeviceShow>({{ModifierId::MODIFIER_FC_DEVICE, "5000-0000-0000-0001"}});
     EXPECT_EQ(std::string::npos, first->text.find("Max Outstanding IO"));
-    auto set = onDevice0<CmdTargetSet>();
-    set->give(ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001");
-    set->give(ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "512");
-    ASSERT_EQ(0, set->run());
-    auto all = onDevice0<CmdDeviceShow>();
-    ASSERT_EQ(0, all->run());
+    ran<CmdTargetSet>(
+        {{ModifierId::MODIFIER_FC_TARGET, "5000-0000-0000-0001"}, {ModifierId::MODIFIER_MAX_OUTSTANDING_IO, "512"}});
+    auto all = ran<CmdDeviceShow>({});
     EXPECT_NE(std::string::npos,
               all->text.find("    Target State = online, mapped, FC1\n"
                              "    Target Portal Mode = FCP\n"

@@ -14,6 +14,28 @@ unsigned char const* nameBytes(std::string const& text)
 
 constexpr int kWwpnBytes = 8;
 
+// The objects of a collection with their records; an object without a
+// record has nothing to show and is left out.
+template <typename Entry, typename Element, typename Info, typename NameOf>
+std::vector<Entry> entriesOf(std::vector<Element*> const& items, Info* (Element::*recordOf)(), NameOf nameOf)
+{
+    std::vector<Entry> all;
+    for (Element* element : items) {
+        Info const* const info = element ? (element->*recordOf)() : nullptr;
+        if (info)
+            all.push_back(Entry{nameOf(*element, *info), *info});
+    }
+    return all;
+}
+
+// The record of the object that a collection holds under `id`, or null.
+template <typename Collection, typename Id, typename Element, typename Info>
+Info const* recordFound(Collection* collection, Id const& id, Info* (Element::*recordOf)())
+{
+    Element* const element = collection->find(id);
+    return element ? (element->*recordOf)() : nullptr;
+}
+
 } // namespace
 
 PInitiatorID initiatorIdOf(KInitiatorInfo const& info)
@@ -46,20 +68,16 @@ KDeviceID deviceIdOf(KDeviceInfo const& info)
 
 std::vector<TargetFamily::Entry> TargetFamily::entries(HIsaAdapter& adapter)
 {
-    std::vector<Entry> all;
-    for (HTarget* target : adapter.getTargets()->items) {
-        PTargetID const* const id = target ? target->getTargetId() : nullptr;
-        KTargetInfo const* const info = target ? target->getTargetInfo() : nullptr;
-        if (id && info)
-            all.push_back(Entry{*id, *info});
-    }
-    return all;
+    return entriesOf<Entry>(adapter.getTargets()->items, &HTarget::getTargetInfo,
+                            [](HTarget& target, KTargetInfo const&) {
+                                PTargetID const* const id = target.getTargetId();
+                                return id ? *id : PTargetID();
+                            });
 }
 
 KTargetInfo const* TargetFamily::find(HIsaAdapter& adapter, PTargetID const& id)
 {
-    HTarget* const target = adapter.getTargets()->find(id);
-    return target ? target->getTargetInfo() : nullptr;
+    return recordFound(adapter.getTargets(), id, &HTarget::getTargetInfo);
 }
 
 bool TargetFamily::readId(TokenCmd& cmd, PTargetID& id, bool& found, std::string& err)
@@ -86,19 +104,13 @@ void InitiatorFamily::clear(HIsaAdapter& adapter)
 
 std::vector<InitiatorFamily::Entry> InitiatorFamily::entries(HIsaAdapter& adapter)
 {
-    std::vector<Entry> all;
-    for (HInitiator* initiator : adapter.getInitiators()->items) {
-        KInitiatorInfo const* const info = initiator ? initiator->getInitiatorInfo() : nullptr;
-        if (info)
-            all.push_back(Entry{initiatorIdOf(*info), *info});
-    }
-    return all;
+    return entriesOf<Entry>(adapter.getInitiators()->items, &HInitiator::getInitiatorInfo,
+                            [](HInitiator&, KInitiatorInfo const& info) { return initiatorIdOf(info); });
 }
 
 KInitiatorInfo const* InitiatorFamily::find(HIsaAdapter& adapter, PInitiatorID const& id)
 {
-    HInitiator* const initiator = adapter.getInitiators()->find(id);
-    return initiator ? initiator->getInitiatorInfo() : nullptr;
+    return recordFound(adapter.getInitiators(), id, &HInitiator::getInitiatorInfo);
 }
 
 bool InitiatorFamily::readId(TokenCmd& cmd, PInitiatorID& id, bool& found, std::string& err)
@@ -128,19 +140,13 @@ void DeviceFamily::clear(HIsaAdapter& adapter)
 
 std::vector<DeviceFamily::Entry> DeviceFamily::entries(HIsaAdapter& adapter)
 {
-    std::vector<Entry> all;
-    for (HDevice* device : adapter.getDevices()->items) {
-        KDeviceInfo const* const info = device ? device->getDeviceInfo() : nullptr;
-        if (info)
-            all.push_back(Entry{deviceIdOf(*info), *info});
-    }
-    return all;
+    return entriesOf<Entry>(adapter.getDevices()->items, &HDevice::getDeviceInfo,
+                            [](HDevice&, KDeviceInfo const& info) { return deviceIdOf(info); });
 }
 
 KDeviceInfo const* DeviceFamily::find(HIsaAdapter& adapter, KDeviceID const& id)
 {
-    HDevice* const device = adapter.getDevices()->find(id);
-    return device ? device->getDeviceInfo() : nullptr;
+    return recordFound(adapter.getDevices(), id, &HDevice::getDeviceInfo);
 }
 
 bool DeviceFamily::readId(TokenCmd& cmd, KDeviceID& id, bool& found, std::string& err)
