@@ -64,8 +64,8 @@ among them.
   zekcli show lun -zek=2000001B32A10C00
   11
 
-"show target" asks for a target only, with "All Targets". That command is
-not built yet: its failure is shown and the session goes on.
+"show target" asks for a target only, with "All Targets". The command runs,
+and the session goes on at the main menu.
 
   $ session '0\n2\n16\n\n0\n3\nq\n'; from 'show target -zek=2000001B32A10C00$' | sed -n '1,/^\*\*\*/p'
   exit 58
@@ -82,7 +82,25 @@ not built yet: its failure is shown and the session goes on.
           Choose Target: 
   zekcli show target -zek=2000001B32A10C00 -is_target=iqn.2004-04.com.simstor:vault.tgt01
   
-  *** ZEKCLI_CMD_FAIL-- The command "show target" is not available in this build yet
+  [ Device 0 on local host ]
+  
+  -is_target=iqn.2004-04.com.simstor:vault.tgt01
+  iSCSI Target 
+      iSCSI Name = iqn.2004-04.com.simstor:vault.tgt01
+      CHAP is Enabled
+      Target State = online, mapped, ETH1
+      Target Portal Mode = ISCSI_OVER_FCOE
+  
+          
+  
+         [0:]  Adapter Information
+          1:   Adapter Configuration
+          2:   Adapter Updates
+          3:   Adapter Diagnostics
+          4:   Help
+          5:   Exit (or use "q")
+  
+          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
 
 A cluster is chosen from the clusters of the scan, the pseudo cluster of
 the adapters outside clusters left out: "show cluster" may leave it out
@@ -134,7 +152,7 @@ menu; "m" goes back to the main menu.
   zekcli show drive -zek=2000001B32A10C00 -drive=5000-C532-A10C-0001
 
 Initiators and devices have menus of their own ("show initiator", "show
-device", neither built yet).
+device").
 
   $ session '0\n2\n7\n\n0\n1\nq\n'; from 'show initiator -zek' | sed -n '1,/^\*\*\*/p'
   exit 58
@@ -148,7 +166,25 @@ device", neither built yet).
           Choose Initiator: 
   zekcli show initiator -zek=2000001B32A10C00 -fc_initiator=2100-001B-32A1-0D00
   
-  *** ZEKCLI_CMD_FAIL-- The command "show initiator" is not available in this build yet
+  [ Device 0 on local host ]
+  
+  -fc_initiator=2100-001B-32A1-0D00
+      -wwpn=2100-001B-32A1-0D00 -wwnn=2000-001B-32A1-0D00
+  FC Initiator
+      (FCP) Fibre Channel Initiator 2000-001B-32A1-0D00, 2100-001B-32A1-0D00
+      Port ID = 01-06-00
+      Operational State = Logged In, Target, DM
+  
+          
+  
+         [0:]  Adapter Information
+          1:   Adapter Configuration
+          2:   Adapter Updates
+          3:   Adapter Diagnostics
+          4:   Help
+          5:   Exit (or use "q")
+  
+          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
   $ session '0\n2\n3\n\n0\n0\nq\n'; from 'show device -zek' | sed -n '1,/^\*\*\*/p'
   exit 58
           show device -zek=2000001B32A10C00
@@ -165,7 +201,26 @@ device", neither built yet).
           Choose Device: 
   zekcli show device -zek=2000001B32A10C00 -fc_device=5006-0160-39A0-1122
   
-  *** ZEKCLI_CMD_FAIL-- The command "show device" is not available in this build yet
+  [ Device 0 on local host ]
+  
+  -fc_device=5006-0160-39A0-1122
+  FC Target 
+      WWNN:    5006-0160-89A0-1122
+      WWPN:    5006-0160-39A0-1122
+      Port ID: 01-02-00
+      Target State = online, mapped, FC1
+      Target Portal Mode = FCP
+  
+          
+  
+         [0:]  Adapter Information
+          1:   Adapter Configuration
+          2:   Adapter Updates
+          3:   Adapter Diagnostics
+          4:   Help
+          5:   Exit (or use "q")
+  
+          Please Enter Selection: \r             \r*** ZEKCLI_EXIT (esc)
 
 An adapter that sees nothing: each prompt says so, and the command runs
 without the keyword (or, for a required one, asks for it as text).
