@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
@@ -20,7 +21,9 @@
 
 #include "core/TokenCmd.h"
 #include "core/TokenRoot.h"
+#include "records/RecordImage.h"
 #include "support/AddressingFixture.h"
+#include "support/FakeHbaMgmtApi.h"
 #include "support/TempDirectory.h"
 
 class CommandRun {
@@ -130,6 +133,23 @@ struct CountedPayload {
     }
 };
 
+// The record whose image a payload carries, usable again: the image's bytes
+// over a fresh record, except where the fresh record holds its code
+// addresses, which an image carries as zeros.
+template <typename Record>
+Record recordOfImage(std::string const& image)
+{
+    Record record;
+    std::vector<unsigned char> const cleared = recordImage(record);
+    auto* const raw = reinterpret_cast<unsigned char*>(static_cast<void*>(&record));
+    EXPECT_LE(image.size(), sizeof(Record));
+    size_t const length = std::min(image.size(), sizeof(Record));
+    for (size_t at = 0; at < length; ++at)
+        if (cleared[at] == raw[at])
+            raw[at] = static_cast<unsigned char>(image[at]);
+    return record;
+}
+
 // Tests that run commands on one adapter of a scenario of the simulated SAN,
 // loaded afresh for each test, by default without faults.
 class CommandsOnSimulatedSan : public ::testing::Test {
@@ -140,6 +160,8 @@ protected:
         : scenario(std::move(scenarioFile)), adapter(std::move(zek))
     {}
     void SetUp() override { load("[]"); }
+    // The simulated SAN, for a test that works on the library's objects.
+    addressing_test::SimulatedSan const& simulated() const { return *san; }
     // Starts again from the scenario with these faults.
     void load(std::string const& faults)
     {
@@ -177,3 +199,27 @@ private:
     std::string adapter;
     std::unique_ptr<addressing_test::SimulatedSan> san;
 };
+
+// A library that accepts every adapter path but holds no adapter.
+class AdapterNotHeldApi : public FakeHbaMgmtApi {
+public:
+    e_MHBA_RETURN checkAdapterPath(KIsaAdapterPath&) override { return MHBA_S_OK; }
+};
+
+// Runs each command with -zek=0 against that library: each must be refused
+// with 1004 and write neither text nor a result record. The runs take the
+// commands over.
+inline void expectAdapterNotFoundByEach(std::vector<TokenCmd*> const& commands)
+{
+    AdapterNotHeldApi api;
+    HbaMgmtApi* const previous = g_pHbaMgmtApi;
+    g_pHbaMgmtApi = &api;
+    for (TokenCmd* command : commands) {
+        CommandRun run(command);
+        run.giveAdapter("0");
+        EXPECT_EQ(1004, run.run()) << command->ugCommandLowCase();
+        EXPECT_EQ("", run.text);
+        EXPECT_FALSE(run.wroteResult());
+    }
+    g_pHbaMgmtApi = previous;
+}

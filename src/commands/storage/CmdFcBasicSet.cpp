@@ -1,5 +1,7 @@
 #include "commands/storage/CmdFcBasicSet.h"
 
+#include <vector>
+
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/FcPortChoice.h"
@@ -7,6 +9,7 @@
 #include "commands/storage/FcPortSettings.h"
 #include "core/ZekcliReturn.h"
 #include "records/KFcInfo.h"
+#include "records/RecordImage.h"
 
 namespace {
 
@@ -77,7 +80,8 @@ int CmdFcBasicSet::execCommand(std::string& err)
         return rc;
     CommandReport report;
     report.text = "FC Port " + std::to_string(choice.index + 1) + " basic info successfully configured";
-    report.data = &port;
-    report.size = sizeof port;
+    std::vector<unsigned char> const image = recordImage(port);
+    report.data = image.data();
+    report.size = image.size();
     return finishCommand(*this, &adapter, report, err);
 }

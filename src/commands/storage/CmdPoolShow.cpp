@@ -1,11 +1,14 @@
 #include "commands/storage/CmdPoolShow.h"
 
+#include <vector>
+
 #include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "records/KIsaAdapterInfo.h"
 #include "records/KPoolInfo.h"
+#include "records/RecordImage.h"
 
 namespace {
 
@@ -40,7 +43,8 @@ int CmdPoolShow::execCommand(std::string& err)
     bool const showDataLuns = described && described->isCapable(KIsaAdapterInfo::LOCAL_SSD_DATA_LUN);
     CommandReport report;
     report.text = info.displayText(showDataLuns);
-    report.data = &info;
-    report.size = sizeof info;
+    std::vector<unsigned char> const image = recordImage(info);
+    report.data = image.data();
+    report.size = image.size();
     return finishCommand(*this, &adapter, report, err);
 }

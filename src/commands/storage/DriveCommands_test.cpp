@@ -19,14 +19,11 @@
 #include "commands/storage/CmdPoolShow.h"
 #include "commands/storage/DrivePathIndex.h"
 #include "commands/storage/DrivePools.h"
-#include "core/TokenRoot.h"
 #include "records/KDriveInfo.h"
 #include "records/KLunInfo.h"
 #include "records/PUniqueID.h"
 #include "support/AddressingFixture.h"
-#include "support/FailingHbaMgmtApi.h"
-
-using addressing_test::SimulatedSan;
+#include "support/CommandRun.h"
 
 namespace {
 
@@ -51,26 +48,36 @@ KDriveID textDrive(std::string text)
     return id;
 }
 
-HIsaAdapter* withDrives(SimulatedSan const& san)
-{
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
-    std::string warning;
-    if (adapter) {
-        EXPECT_EQ(0, gatherDrives(*adapter, warning));
-    }
-    return adapter;
-}
+// The adapter A0 of the drives scenario, with its drives on the steps'
+// own terms: the library's objects, not a command's run.
+class DrivesSan : public CommandsOnSimulatedSan {
+protected:
+    DrivesSan() : CommandsOnSimulatedSan("drives", "0") {}
 
-// The adapter with its targets gathered, as before a walk over them.
-HIsaAdapter* withTargets(SimulatedSan const& san)
-{
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
-    MHbaReturnBuffer firstFailure;
-    if (adapter) {
-        EXPECT_EQ(0, adapter->getTargetsAndInitiators(&firstFailure));
+    HIsaAdapter* heldAdapter() const { return simulated().adapter(kAdapter); }
+
+    // The adapter with its drives gathered.
+    HIsaAdapter* withDrives() const
+    {
+        HIsaAdapter* const held = heldAdapter();
+        std::string warning;
+        if (held) {
+            EXPECT_EQ(0, gatherDrives(*held, warning));
+        }
+        return held;
     }
-    return adapter;
-}
+
+    // The adapter with its targets gathered, as before a walk over them.
+    HIsaAdapter* withTargets() const
+    {
+        HIsaAdapter* const held = heldAdapter();
+        MHbaReturnBuffer firstFailure;
+        if (held) {
+            EXPECT_EQ(0, held->getTargetsAndInitiators(&firstFailure));
+        }
+        return held;
+    }
+};
 
 std::string pathLine(int number)
 {
@@ -79,11 +86,9 @@ std::string pathLine(int number)
 
 } // namespace
 
-TEST(DrivePools, ListThePoolMembersFirstAndThenTheFreeDrives)
+TEST_F(DrivesSan, DrivePoolsListThePoolMembersFirstAndThenTheFreeDrives)
 {
-    SimulatedSan san("drives");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = withDrives(san);
+    HIsaAdapter* const adapter = withDrives();
     ASSERT_NE(nullptr, adapter);
     EXPECT_EQ("Configured Drives (2 of 4)\n"
               "    -drive=5000-C500-00A0-0000\n"
@@ -94,11 +99,9 @@ TEST(DrivePools, ListThePoolMembersFirstAndThenTheFreeDrives)
               poolListingText(*adapter, nullptr));
 }
 
-TEST(DrivePools, PutTheDetailOfEachDriveAfterItsLine)
+TEST_F(DrivesSan, DrivePoolsPutTheDetailOfEachDriveAfterItsLine)
 {
-    SimulatedSan san("drives");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = withDrives(san);
+    HIsaAdapter* const adapter = withDrives();
     ASSERT_NE(nullptr, adapter);
     std::string const text =
         poolListingText(*adapter, [](KDriveID const& id) { return " <" + id.displayText() + ">"; });
@@ -106,11 +109,9 @@ TEST(DrivePools, PutTheDetailOfEachDriveAfterItsLine)
     EXPECT_NE(std::string::npos, text.find("    -drive=DRIVE-TEXT <DRIVE-TEXT>\n\n\n"));
 }
 
-TEST(DrivePools, GiveTheRecordsOfEveryDriveInOrder)
+TEST_F(DrivesSan, DrivePoolsGiveTheRecordsOfEveryDriveInOrder)
 {
-    SimulatedSan san("drives");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = withDrives(san);
+    HIsaAdapter* const adapter = withDrives();
     ASSERT_NE(nullptr, adapter);
     std::vector<KDriveID> const ids = driveIdsOf(*adapter);
     std::vector<KDriveInfo> const records = driveRecordsOf(*adapter);
@@ -120,12 +121,10 @@ TEST(DrivePools, GiveTheRecordsOfEveryDriveInOrder)
     EXPECT_EQ(0xB0u, records[3].ownerId);
 }
 
-TEST(DrivePools, TellAPartialGatheringByItsFirstFailure)
+TEST_F(DrivesSan, DrivePoolsTellAPartialGatheringByItsFirstFailure)
 {
-    SimulatedSan san("drives",
-                     R"([{"adapter": "A0", "operation": "getDrivesWithErrorDetails", "code": 2, "firstError": 1006}])");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
+    load(R"([{"adapter": "A0", "operation": "getDrivesWithErrorDetails", "code": 2, "firstError": 1006}])");
+    HIsaAdapter* const adapter = heldAdapter();
     ASSERT_NE(nullptr, adapter);
     std::string warning;
     EXPECT_EQ(2, gatherDrives(*adapter, warning));
@@ -135,11 +134,10 @@ TEST(DrivePools, TellAPartialGatheringByItsFirstFailure)
     EXPECT_EQ(4u, adapter->getDrives()->items.size());
 }
 
-TEST(DrivePools, AFailedGatheringLeavesNoWarning)
+TEST_F(DrivesSan, DrivePoolsAFailedGatheringLeavesNoWarning)
 {
-    SimulatedSan san("drives", R"([{"adapter": "A0", "operation": "getDrivesWithErrorDetails", "code": 1006}])");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = san.adapter(kAdapter);
+    load(R"([{"adapter": "A0", "operation": "getDrivesWithErrorDetails", "code": 1006}])");
+    HIsaAdapter* const adapter = heldAdapter();
     ASSERT_NE(nullptr, adapter);
     std::string warning;
     EXPECT_EQ(1006, gatherDrives(*adapter, warning));
@@ -165,11 +163,9 @@ TEST(DriveIdOfLun, NeverReadsPastTheNameField)
     EXPECT_EQ(static_cast<int>(sizeof lun.ui8Wwuln), id.getWwulnIdLength());
 }
 
-TEST(DrivePathIndex, GivesEachDriveTheLunsThatPresentIt)
+TEST_F(DrivesSan, DrivePathIndexGivesEachDriveTheLunsThatPresentIt)
 {
-    SimulatedSan san("drives");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = withTargets(san);
+    HIsaAdapter* const adapter = withTargets();
     ASSERT_NE(nullptr, adapter);
     DrivePathIndex index;
     ASSERT_EQ(0, index.build(*adapter));
@@ -183,22 +179,19 @@ TEST(DrivePathIndex, GivesEachDriveTheLunsThatPresentIt)
               index.pathLines(binaryDrive("600A0B80000000000000000000000A05")));
 }
 
-TEST(DrivePathIndex, StopsAtATargetWhoseLunsCannotBeGathered)
+TEST_F(DrivesSan, DrivePathIndexStopsAtATargetWhoseLunsCannotBeGathered)
 {
-    SimulatedSan san("drives", R"([{"adapter": "A0", "operation": "getLunsForSpecificTarget", "code": 1006}])");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = withTargets(san);
+    load(R"([{"adapter": "A0", "operation": "getLunsForSpecificTarget", "code": 1006}])");
+    HIsaAdapter* const adapter = withTargets();
     ASSERT_NE(nullptr, adapter);
     DrivePathIndex index;
     EXPECT_EQ(1006, index.build(*adapter));
     EXPECT_EQ("", index.pathLines(binaryDrive("5000C50000A00000")));
 }
 
-TEST(CmdDriveShow, DrivePathInfoHasItsHeadingAndTheDrivesLines)
+TEST_F(DrivesSan, CmdDriveShowDrivePathInfoHasItsHeadingAndTheDrivesLines)
 {
-    SimulatedSan san("drives");
-    ADDRESSING_REQUIRE_SIMULATOR(san);
-    HIsaAdapter* const adapter = withTargets(san);
+    HIsaAdapter* const adapter = withTargets();
     ASSERT_NE(nullptr, adapter);
     CmdDriveShow command;
     KDriveID drive = binaryDrive("5000C50000A00001");
@@ -213,45 +206,8 @@ TEST(CmdDriveShow, DrivePathInfoHasItsHeadingAndTheDrivesLines)
     EXPECT_EQ("", err);
 }
 
-namespace {
-
-// A library that lets any adapter be selected but holds none.
-class SelectsButHoldsNoAdapter : public fixture::FailingHbaMgmtApi {
-public:
-    SelectsButHoldsNoAdapter() : FailingHbaMgmtApi(2, 103, 6, 4) {}
-    e_MHBA_RETURN checkAdapterPath(KIsaAdapterPath&) override { return MHBA_S_OK; }
-};
-
-template <typename Command>
-int runOnAnAdapterNotHeld(std::string& err)
-{
-    SelectsButHoldsNoAdapter api;
-    HbaMgmtApi* const previous = g_pHbaMgmtApi;
-    g_pHbaMgmtApi = &api;
-    TokenRoot root;
-    auto* command = new Command;
-    root.addChild(command);
-    root.addCommonModifiersForAllCommands(parseTreeCommonModifierInit);
-    TokenModifierString* const zek = command->findModifier(ModifierId::MODIFIER_ZEK, err);
-    EXPECT_NE(nullptr, zek) << err;
-    if (zek)
-        zek->setValue("0");
-    int const rc = command->execCommand(err);
-    g_pHbaMgmtApi = previous;
-    return rc;
-}
-
-} // namespace
-
 TEST(DriveAndPoolCommands, AnAdapterTheLibraryDoesNotHoldIsNotFound)
 {
-    std::string err;
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdDriveList>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdDriveShow>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdDriveAdd>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdDriveRemove>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdDriveConfigRestore>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdPoolShow>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdPoolSet>(err));
-    EXPECT_EQ(1004, runOnAnAdapterNotHeld<CmdPoolRemove>(err));
+    expectAdapterNotFoundByEach({new CmdDriveList, new CmdDriveShow, new CmdDriveAdd, new CmdDriveRemove,
+                                 new CmdDriveConfigRestore, new CmdPoolShow, new CmdPoolSet, new CmdPoolRemove});
 }

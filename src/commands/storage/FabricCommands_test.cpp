@@ -22,7 +22,6 @@
 #include "core/ZekcliReturn.h"
 #include "support/AddressingFixture.h"
 #include "support/CommandRun.h"
-#include "support/FakeHbaMgmtApi.h"
 
 namespace {
 
@@ -44,15 +43,6 @@ PTargetID fcTarget(std::string const& text)
     return id;
 }
 
-template <typename Record>
-Record imageOf(std::string const& image)
-{
-    Record record;
-    EXPECT_LE(image.size(), sizeof record);
-    std::memcpy(static_cast<void*>(&record), image.data(), std::min(image.size(), sizeof record));
-    return record;
-}
-
 class FabricSan : public CommandsOnSimulatedSan {
 protected:
     FabricSan() : CommandsOnSimulatedSan(kFabric, "0") {}
@@ -66,31 +56,13 @@ std::string const kTargetP1 = "-fc_target=5000-0000-0000-0001\n"
                               "    Target State = online, mapped, FC1\n"
                               "    Target Portal Mode = FCP\n";
 
-// A library that accepts every adapter path but holds no adapter.
-class AdapterNotHeldApi : public FakeHbaMgmtApi {
-public:
-    e_MHBA_RETURN checkAdapterPath(KIsaAdapterPath&) override { return MHBA_S_OK; }
-};
-
 } // namespace
 
 TEST(FabricAndPortCommands, AnAdapterTheLibraryDoesNotHoldIsNotFound)
 {
-    AdapterNotHeldApi api;
-    HbaMgmtApi* const previous = g_pHbaMgmtApi;
-    g_pHbaMgmtApi = &api;
-    std::vector<TokenCmd*> const commands = {new CmdFcBasicShow, new CmdFcBasicSet,    new CmdFcEnable,
-                                             new CmdFcDisable,   new CmdTargetList,    new CmdTargetShow,
-                                             new CmdTargetSet,   new CmdInitiatorList, new CmdInitiatorShow,
-                                             new CmdDeviceList,  new CmdDeviceShow};
-    for (TokenCmd* command : commands) {
-        CommandRun run(command);
-        run.giveAdapter("0");
-        EXPECT_EQ(1004, run.run()) << command->ugCommandLowCase();
-        EXPECT_EQ("", run.text);
-        EXPECT_FALSE(run.wroteResult());
-    }
-    g_pHbaMgmtApi = previous;
+    expectAdapterNotFoundByEach({new CmdFcBasicShow, new CmdFcBasicSet, new CmdFcEnable, new CmdFcDisable,
+                                 new CmdTargetList, new CmdTargetShow, new CmdTargetSet, new CmdInitiatorList,
+                                 new CmdInitiatorShow, new CmdDeviceList, new CmdDeviceShow});
 }
 
 TEST_F(FabricSan, ListTargetShowsTheTargetsButNotTheAdaptersOwnAndGivesAllInTheResult)
@@ -108,8 +80,8 @@ TEST_F(FabricSan, ListTargetShowsTheTargetsButNotTheAdaptersOwnAndGivesAllInTheR
     EXPECT_EQ(0u, run->resultStatus());
     CountedPayload const payload = counted(*run, 6, 292);
     ASSERT_EQ(6u, payload.images.size());
-    EXPECT_TRUE(imageOf<PTargetID>(payload.images[0]) == fcTarget("5000-0000-0000-0001"));
-    EXPECT_TRUE(imageOf<PTargetID>(payload.images[4]) == fcTarget("2100-0000-0000-00A0"));
+    EXPECT_TRUE(recordOfImage<PTargetID>(payload.images[0]) == fcTarget("5000-0000-0000-0001"));
+    EXPECT_TRUE(recordOfImage<PTargetID>(payload.images[4]) == fcTarget("2100-0000-0000-00A0"));
 }
 
 TEST_F(FabricSan, ListTargetAfterAPartialGatheringShowsOnlyItsNoticeAndGivesEveryTarget)
@@ -146,7 +118,7 @@ TEST_F(FabricSan, ShowTargetByNameGivesItsRecordInTheResult)
     EXPECT_EQ(kBanner + kTargetP1 + "\n", run->text);
     CountedPayload const payload = counted(*run, 1, 292);
     ASSERT_EQ(1u, payload.images.size());
-    KTargetInfo const info = imageOf<KTargetInfo>(payload.images[0]);
+    KTargetInfo const info = recordOfImage<KTargetInfo>(payload.images[0]);
     EXPECT_TRUE(info.isFcTarget());
     EXPECT_TRUE(info.isDiscoveredOnPort_1());
     EXPECT_FALSE(info.isDiscoveredOnPort_2());
@@ -260,7 +232,7 @@ TEST_F(FabricSan, ListInitiatorNamesEachInitiatorByItsProtocol)
     ASSERT_EQ(3u, payload.images.size());
     PInitiatorID expected;
     expected.initIscsiInitiatorID(reinterpret_cast<unsigned char const*>("iqn.1994-05.com.sim:host"));
-    EXPECT_TRUE(imageOf<PInitiatorID>(payload.images[2]) == expected);
+    EXPECT_TRUE(recordOfImage<PInitiatorID>(payload.images[2]) == expected);
 }
 
 TEST_F(FabricSan, ShowInitiatorStartsTheHeadingOnALineOfItsOwn)
@@ -277,7 +249,7 @@ TEST_F(FabricSan, ShowInitiatorStartsTheHeadingOnALineOfItsOwn)
               run->text);
     CountedPayload const payload = counted(*run, 1, 468);
     ASSERT_EQ(1u, payload.images.size());
-    EXPECT_TRUE(imageOf<KInitiatorInfo>(payload.images[0]).isDmInitiator());
+    EXPECT_TRUE(recordOfImage<KInitiatorInfo>(payload.images[0]).isDmInitiator());
 }
 
 TEST_F(FabricSan, ShowInitiatorOfAllGivesAllInTheResult)
@@ -315,7 +287,7 @@ TEST_F(FabricSan, ListDeviceSkipsTheAdaptersOwnDeviceButGivesItInTheResult)
     ASSERT_EQ(8u, payload.images.size());
     KDeviceID own;
     own.initFcDeviceIDFromString("2100-0000-0000-00A0");
-    EXPECT_TRUE(imageOf<KDeviceID>(payload.images[4]) == own);
+    EXPECT_TRUE(recordOfImage<KDeviceID>(payload.images[4]) == own);
 }
 
 TEST_F(FabricSan, ShowDeviceOfATargetThatIsAlsoAnInitiatorShowsBothParts)
@@ -337,7 +309,7 @@ TEST_F(FabricSan, ShowDeviceOfATargetThatIsAlsoAnInitiatorShowsBothParts)
               run->text);
     CountedPayload const payload = counted(*run, 1, 852);
     ASSERT_EQ(1u, payload.images.size());
-    KDeviceInfo const info = imageOf<KDeviceInfo>(payload.images[0]);
+    KDeviceInfo const info = recordOfImage<KDeviceInfo>(payload.images[0]);
     EXPECT_TRUE(info.isTarget);
     EXPECT_TRUE(info.isInitiator);
 }
@@ -348,7 +320,7 @@ TEST_F(FabricSan, ShowDeviceOfAllGivesEveryDeviceInTheResultTheAdaptersOwnToo)
     EXPECT_EQ(std::string::npos, run->text.find("-fc_device=2100-0000-0000-00A0"));
     CountedPayload const payload = counted(*run, 8, 852);
     ASSERT_EQ(8u, payload.images.size());
-    EXPECT_TRUE(imageOf<KDeviceInfo>(payload.images[4]).isInternal);
+    EXPECT_TRUE(recordOfImage<KDeviceInfo>(payload.images[4]).isInternal);
 }
 
 TEST_F(FabricSan, ShowDeviceRefusesUnknownDoublyNamedAndUnreadableDevices)

@@ -26,12 +26,9 @@ std::string fault(char const* operation, int code, bool always = false)
 // The port record of a result payload.
 KFcInfo portOf(CommandRun const& run)
 {
-    KFcInfo port;
     std::string const payload = run.payload();
-    EXPECT_EQ(sizeof port, payload.size());
-    if (payload.size() == sizeof port)
-        std::memcpy(static_cast<void*>(&port), payload.data(), sizeof port);
-    return port;
+    EXPECT_EQ(sizeof(KFcInfo), payload.size());
+    return recordOfImage<KFcInfo>(payload);
 }
 
 // The adapter's banner, as each piece of text, ends in a line feed of the
