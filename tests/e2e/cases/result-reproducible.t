@@ -40,3 +40,32 @@ starts at byte 52; a block that holds no record ends with its header.
   list lun:
   show reservation -zek=0: 08 00 00 00 00 00 00 00
   show reservation -zek=0:
+
+The drive, pool, port and fabric commands: a single record for the pool
+and the port (set fc writes the port as it reads back), a counted block for
+the rest.
+
+  $ for command in 'show pool -zek=0' 'show fc -zek=0 -port=1' 'set fc -zek=0 -port=1'; do same 40 $command; done
+  show pool -zek=0: 00 00 00 00 00 00 00 00
+  show fc -zek=0 -port=1: 00 00 00 00 00 00 00 00
+  set fc -zek=0 -port=1: 00 00 00 00 00 00 00 00
+  $ for command in 'list drive -zek=0' 'show drive -zek=0' 'list target -zek=0' \
+  >     'show target -zek=0 -fc_target=5006-0160-39A0-1122' 'list initiator -zek=0' 'show initiator -zek=0' \
+  >     'list device -zek=0' 'show device -zek=0'; do
+  >   same 40 $command; same 52 $command; done
+  list drive -zek=0: 08 00 00 00 04 00 00 00
+  list drive -zek=0: 00 00 00 00 00 00 00 00
+  show drive -zek=0: 08 00 00 00 04 00 00 00
+  show drive -zek=0: 00 00 00 00 00 00 00 00
+  list target -zek=0: 08 00 00 00 05 00 00 00
+  list target -zek=0: 00 00 00 00 00 00 00 00
+  show target -zek=0 -fc_target=5006-0160-39A0-1122: 08 00 00 00 01 00 00 00
+  show target -zek=0 -fc_target=5006-0160-39A0-1122: 00 00 00 00 00 00 00 00
+  list initiator -zek=0: 08 00 00 00 03 00 00 00
+  list initiator -zek=0: 00 00 00 00 00 00 00 00
+  show initiator -zek=0: 08 00 00 00 03 00 00 00
+  show initiator -zek=0: 00 00 00 00 00 00 00 00
+  list device -zek=0: 08 00 00 00 08 00 00 00
+  list device -zek=0: 00 00 00 00 00 00 00 00
+  show device -zek=0: 08 00 00 00 08 00 00 00
+  show device -zek=0: 00 00 00 00 00 00 00 00
