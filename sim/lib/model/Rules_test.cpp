@@ -4,6 +4,8 @@
 #include "model/Codes.h"
 #include "model/DefaultSan.h"
 
+#include "support/DefaultSanTest.h"
+
 #include <gtest/gtest.h>
 
 using namespace sim;
@@ -16,14 +18,8 @@ constexpr u64 kSanOnly = 0x2000001B32A10E00ull;
 constexpr u64 kOffline = 0x2000001B32A10F00ull;
 constexpr long long kNow = 1700000000;
 
-class RulesTest : public ::testing::Test {
+class RulesTest : public DefaultSanTest {
 protected:
-    void SetUp() override
-    {
-        setenv("HBASIM_TIME", "1700000000", 1);
-        san = defaultSan();
-    }
-    San san;
     PathRef mirrored{"array-a-spa", 0, 1}; // cached write-back on device 0
     PathRef uncached{"array-a-spa", 1, 1};
     PathRef peerCached{"array-b", 1, 1}; // cached on device 1
