@@ -183,6 +183,16 @@ KDriveID driveId(const Drive& d)
     return id;
 }
 
+// The SSD identifier a caller gives for a drive: its serial number as text.
+KWwulnLunID driveSsdId(const Drive& d)
+{
+    KWwulnLunID id;
+    std::string name = d.serial;
+    id.initWwulnLunID(PBase::WWULN_CODE_SET_TEXT, static_cast<int>(name.size()),
+                      reinterpret_cast<unsigned char*>(name.data()));
+    return id;
+}
+
 KClusterID clusterId(const std::string& id)
 {
     KClusterID key;

@@ -53,6 +53,7 @@ private:
 bool driveNameIsBinary(const Drive& d);
 std::vector<unsigned char> driveNameBytes(const Drive& d);
 KDriveID driveId(const Drive& d);
+KWwulnLunID driveSsdId(const Drive& d);
 
 KClusterID clusterId(const std::string& id);
 std::string clusterName(const KClusterID& id);

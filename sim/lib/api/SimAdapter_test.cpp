@@ -75,13 +75,21 @@ int nothingToPrepare(Bench&)
     return code::Ok;
 }
 
+// What the start SAN needs that no operation can set up, such as a drive
+// whose configuration another adapter wrote.
+using Arrangement = std::function<void(San&)>;
+
+void nothingToArrange(San&) {}
+
 struct ChangingOperation {
-    ChangingOperation(const char* operation, Step change, Step before = nothingToPrepare)
-        : name(operation), run(std::move(change)), prepare(std::move(before))
+    ChangingOperation(const char* operation, Step change, Step before = nothingToPrepare,
+                      Arrangement arrange = nothingToArrange)
+        : name(operation), run(std::move(change)), prepare(std::move(before)), arrange(std::move(arrange))
     {}
     const char* name; // as faults name it
     Step run;
     Step prepare; // brings the SAN to where the operation can change it
+    Arrangement arrange;
 };
 
 std::vector<ChangingOperation> changingOperations()
@@ -134,7 +142,8 @@ std::vector<ChangingOperation> changingOperations()
         {"factoryReset", [](Bench& b) { return b.dev0.factoryReset(0); }},
         {"setPassword", [](Bench& b) { return b.dev0.setPassword("admin", "zek", "changed"); }},
         {"restart", [](Bench& b) { return b.dev0.restart(1); }},
-        {"restoreDriveConfig", [](Bench& b) { return b.dev0.restoreDriveConfig(kDev1); }},
+        {"restoreDriveConfig", [](Bench& b) { return b.dev0.restoreDriveConfig(kDev1); }, nothingToPrepare,
+         [](San& san) { findAdapter(san, kDev0)->drives.back().owner.value = kDev1; }},
         {"installFirmware",
          [](Bench& b) { return b.dev0.updateFirmware(b.localFile("image.bin", "version=9.9.9\n").c_str()); }},
         {"putFile", [](Bench& b) { return b.dev0.putFile(b.localFile("notes.txt", "hello").c_str(), "notes", false); }},
@@ -193,6 +202,7 @@ protected:
     Outcome runWith(int injected)
     {
         San start = defaultSan();
+        operation().arrange(start);
         if (injected != 0)
             start.faults.push_back({{kDev0}, operation().name, injected, true, 0});
         auto api = std::make_unique<SimApi>();
@@ -206,6 +216,7 @@ protected:
         if (!dev0)
             return {};
         San model = defaultSan();
+        operation().arrange(model);
         Bench bench{*api, *dev0, model, scratch};
         EXPECT_EQ(operation().prepare(bench), code::Ok) << "preparing " << operation().name;
         Outcome outcome;
