@@ -87,7 +87,7 @@ std::string adapters(const San& san, long long now)
         std::string foreignText = foreign ? ", " + std::to_string(foreign) + " of another adapter" : "";
         text += "      ports: " + ports + "; drives: " + std::to_string(a.drives.size()) + " (" +
             std::to_string(configured) + " in pool" + foreignText + "); cache pool " + sizeText(a.cachePoolBytes) +
-            "; log " + std::to_string(a.log.size()) + " records\n";
+            "; log " + std::to_string(a.log.size()) + " records" + (a.fixedStatistics ? "; statistics pinned" : "") + "\n";
     }
     return text;
 }
@@ -147,6 +147,8 @@ std::string luns(const San& san)
             text += ", data LUN \"" + l.localInfo.name + "\" of " + adapterIdText(l.localInfo.owner.value);
         if (l.reservation.type > 1)
             text += ", reserved";
+        if (l.fixedIoStatistics)
+            text += ", statistics pinned";
         text += cacheText(l) + "\n";
     }
     return text;

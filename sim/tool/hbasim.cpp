@@ -11,6 +11,7 @@
 #include "state/Clock.h"
 #include "state/StateStore.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -46,8 +47,9 @@ const char* const kUsage =
     "  offline adapter ADAPTER | port ADAPTER PORT | lun WWULN | agent ADDRESS\n"
     "  online adapter ADAPTER | port ADAPTER PORT | lun WWULN | agent ADDRESS\n"
     "                            take an object offline or bring it back\n"
-    "  generate ADAPTERS LUN_PATHS [--targets N] [--drives N] [--output FILE] [--log N]\n"
+    "  generate ADAPTERS LUN_PATHS [--targets N] [--drives N] [--cached N] [--output FILE] [--log N]\n"
     "                            make a large synthetic SAN, into the state unless --output is given;\n"
+    "                            --cached caches the first N LUNs on the first adapter;\n"
     "                            --log gives every adapter a log of N records (default 20)\n"
     "  log ADAPTER append SEVERITY SOURCE MESSAGE [--count N]\n"
     "                            add a record (N records) to the adapter's event log, which keeps\n"
@@ -399,10 +401,11 @@ int generate(StateStore& store, std::vector<std::string> args)
     if (!takeLogOption(args, logRecords, problem))
         return badArguments(problem);
     std::string output;
-    long long targets = 16, drives = 4;
+    long long targets = 16, drives = 4, cached = 0;
     std::vector<std::string> plain;
     for (size_t i = 0; i < args.size(); ++i) {
-        if ((args[i] == "--targets" || args[i] == "--drives" || args[i] == "--output") && i + 1 >= args.size())
+        if ((args[i] == "--targets" || args[i] == "--drives" || args[i] == "--cached" || args[i] == "--output") &&
+            i + 1 >= args.size())
             return badArguments(args[i] + " needs a value");
         if (args[i] == "--targets") {
             if (!wholeNumber(args[++i], 1, 1024, targets))
@@ -410,6 +413,9 @@ int generate(StateStore& store, std::vector<std::string> args)
         } else if (args[i] == "--drives") {
             if (!wholeNumber(args[++i], 0, 64, drives))
                 return badArguments("--drives takes a number from 0 to 64");
+        } else if (args[i] == "--cached") {
+            if (!wholeNumber(args[++i], 0, 1000000, cached))
+                return badArguments("--cached takes a number from 0 to 1000000");
         } else if (args[i] == "--output") {
             output = args[++i];
         } else {
@@ -420,15 +426,18 @@ int generate(StateStore& store, std::vector<std::string> args)
     if (plain.size() != 2 || !wholeNumber(plain[0], 1, 64, adapters) || !wholeNumber(plain[1], 1, 1000000, paths))
         return badArguments("generate takes ADAPTERS (1 to 64) and LUN_PATHS (1 to 1000000)");
     San san = generateSan(static_cast<int>(adapters), static_cast<int>(paths), static_cast<int>(targets),
-                          static_cast<int>(drives));
+                          static_cast<int>(drives), static_cast<int>(cached));
     if (logRecords >= 0)
         replaceLogs(san, simNow(), static_cast<int>(logRecords));
     std::string error;
     bool ok = output.empty() ? store.replace(san, error) : writeTextFileAtomically(output, scenarioToText(san), error);
     if (!ok)
         return failed(error);
-    std::printf("Generated %lld adapters, %zu targets, %zu LUNs with %lld paths into %s\n", adapters,
-                san.targets.size(), san.luns.size(), paths, output.empty() ? store.path().c_str() : output.c_str());
+    size_t const cachedLuns = std::min(san.luns.size(), static_cast<size_t>(cached));
+    std::string const cachedText = cachedLuns ? " (" + std::to_string(cachedLuns) + " cached)" : std::string();
+    std::printf("Generated %lld adapters, %zu targets, %zu LUNs%s with %lld paths into %s\n", adapters,
+                san.targets.size(), san.luns.size(), cachedText.c_str(), paths,
+                output.empty() ? store.path().c_str() : output.c_str());
     return kDone;
 }
 

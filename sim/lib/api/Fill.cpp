@@ -486,8 +486,8 @@ void fillLunIoStatistics(const San& san, const Lun& lun, const Adapter& viewer, 
     c.bValid = true;
     c.ui32ReadHitPercent = load.readHitPercent;
     c.ui32WriteHitPercent = load.writeHitPercent;
-    c.ui64TotalRead = load.readBlocks * 512;
-    c.ui64TotalWritten = load.writeBlocks * 512;
+    c.ui64TotalRead = load.readBytes;
+    c.ui64TotalWritten = load.writtenBytes;
     c.ui64WriteHitBytes = load.writeHitBytes;
     c.ui64ReadHitBytes = load.readHitBytes;
     c.ui64CleanBytes = load.cleanBytes;

@@ -307,6 +307,9 @@ e_MHBA_RETURN SimAdapter::getLunIoStatistics(const uint8_t* wwuln, uint32_t wwul
         const Lun* lun = wwulnIndex_.find(san, wwuln, wwulnLength);
         if (!lun)
             return code::ObjectNotFound;
+        // A LUN that is gone has no traffic to count.
+        if (!lun->online)
+            return code::LunGone;
         fillLunIoStatistics(san, *lun, a, withCacheStatistics, backend_.now(), out);
         return code::Ok;
     }));

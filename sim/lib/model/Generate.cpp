@@ -21,9 +21,29 @@ Host generatedHost()
     return h;
 }
 
+// Read/write-back with the firmware's windows; a mirrored cache is in
+// synchrony on the second adapter and holds some dirty data.
+void cacheOnFirstAdapter(const San& san, Lun& lun, u64 index, long long now)
+{
+    constexpr u64 MiB = 1024ull * 1024;
+    lun.cached = true;
+    CacheSettings& c = lun.cache;
+    c.adapter = san.adapters[0].id;
+    c.mode = 2;
+    c.maxCacheBytes = index % 2 ? 0 : (4 + index % 60) * 1024 * MiB;
+    c.since = now;
+    if (index % 4 == 0 && san.adapters.size() >= 2) {
+        c.mirrored = true;
+        c.mirrorAdapter = san.adapters[1].id;
+        c.mirrorState = 0x0101; // configured, in synchrony
+        c.mirrorFlag = 4;
+        c.dirtyBytes = (16 + index % 16) * MiB;
+    }
+}
+
 } // namespace
 
-San generateSan(int adapters, int lunPaths, int targets, int drives)
+San generateSan(int adapters, int lunPaths, int targets, int drives, int cached)
 {
     long long now = simNow();
     San san;
@@ -76,6 +96,8 @@ San generateSan(int adapters, int lunPaths, int targets, int drives)
             lun.paths.push_back(LunPath{san.targets[t].name, nextLun[t]++, 1, k == 0 ? 3 : 6});
         }
         paths += count;
+        if (n < static_cast<u64>(cached))
+            cacheOnFirstAdapter(san, lun, n, now);
         san.luns.push_back(lun);
     }
     return san;

@@ -9,6 +9,8 @@ namespace sim {
 // `targets` FC targets; LUNs are spread over the targets so that there are
 // `lunPaths` paths in all, every fourth LUN reached through two targets.
 // Each adapter has `drives` SSDs, all but the last in its cache pool.
-San generateSan(int adapters, int lunPaths, int targets = 16, int drives = 4);
+// The first `cached` LUNs are cached on the first adapter, every fourth of
+// them mirrored on the second when there is one.
+San generateSan(int adapters, int lunPaths, int targets = 16, int drives = 4, int cached = 0);
 
 } // namespace sim

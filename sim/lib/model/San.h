@@ -4,9 +4,11 @@
 #pragma once
 
 #include "model/States.h"
+#include "model/PinnedStatistics.h"
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -166,6 +168,7 @@ struct Adapter {
     long long statsClearedAt = 0;
     bool needsRestart = false;
     u32 memoryScale = 1;
+    std::optional<FixedStatistics> fixedStatistics; // absent: the workload model
 };
 
 struct Cluster {
@@ -270,6 +273,7 @@ struct Lun {
     long long statsClearedAt = 0;
     bool local = false; // carved from an adapter's drives
     LocalLun localInfo;
+    std::optional<FixedIoStatistics> fixedIoStatistics; // absent: the workload model
 };
 
 struct San {

@@ -31,7 +31,8 @@
 #define SIM_FIELDS_Adapter                                                                                             \
     id, host, device, viaDevice, state, productName, symbolicName, serialNumber, hwVersion, swVersion, ubootVersion,   \
         biosVersion, efiVersion, capabilities, password, autoCluster, ports, drives, cachePoolBytes, health, nvdimm,   \
-        files, binaryFiles, log, bootTime, restartUntil, restartPolls, statsClearedAt, needsRestart, memoryScale
+        files, binaryFiles, log, bootTime, restartUntil, restartPolls, statsClearedAt, needsRestart, memoryScale,      \
+        fixedStatistics
 #define SIM_FIELDS_Cluster id, hostClusterType, primary, secondary, members
 #define SIM_FIELDS_Target                                                                                              \
     name, protocol, wwpn, wwnn, portId, iscsiName, chap, ports, online, mapped, internal, portalMode,                  \
@@ -46,7 +47,14 @@
 #define SIM_FIELDS_Reservation type, key
 #define SIM_FIELDS_Lun                                                                                                 \
     wwuln, codeSet, type, sizeBytes, vendor, product, revision, serial, page80, online, extraState, paths,             \
-        reservation, cached, cache, statsClearedAt, local, localInfo
+        reservation, cached, cache, statsClearedAt, local, localInfo, fixedIoStatistics
+#define SIM_FIELDS_PinnedAdapterFigures                                                                                \
+    totalCapacity, usedCapacity, readData, writeLoadHits, readLoadHits, usedPercentFirst, usedPercentSecond,           \
+        readLoadPercent, writeLoadPercent
+#define SIM_FIELDS_FixedStatistics counters, hostPcie, adapter
+#define SIM_FIELDS_FixedIoStatistics                                                                                   \
+    readCount, writeCount, readBlocks, writeBlocks, readHitPercent, writeHitPercent, totalRead, totalWritten,          \
+        writeHitBytes, readHitBytes, cleanBytes, dirtyBytes, lockedBytes
 #define SIM_FIELDS_San format, version, name, hosts, adapters, clusters, targets, initiators, luns, faults, nextLocalLun
 
 #define SIM_VISIT_FIELD(field) visit(#field, object.field);
@@ -97,6 +105,9 @@ SIM_DEFINE_FIELDS(CacheSettings, SIM_FIELDS_CacheSettings)
 SIM_DEFINE_FIELDS(LocalLun, SIM_FIELDS_LocalLun)
 SIM_DEFINE_FIELDS(Reservation, SIM_FIELDS_Reservation)
 SIM_DEFINE_FIELDS(Lun, SIM_FIELDS_Lun)
+SIM_DEFINE_FIELDS(PinnedAdapterFigures, SIM_FIELDS_PinnedAdapterFigures)
+SIM_DEFINE_FIELDS(FixedStatistics, SIM_FIELDS_FixedStatistics)
+SIM_DEFINE_FIELDS(FixedIoStatistics, SIM_FIELDS_FixedIoStatistics)
 SIM_DEFINE_FIELDS(San, SIM_FIELDS_San)
 
 // True for the structs listed above, which are written as JSON objects.

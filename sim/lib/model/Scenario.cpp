@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "model/Base64.h"
+#include "model/PinnedStatisticsJson.h"
 #include "model/SanFields.h"
 #include "model/ScenarioCodec.h"
 #include "model/States.h"
@@ -116,6 +117,8 @@ void pruneDefaults(nlohmann::json& j, const nlohmann::json& defaults)
         }
         if (it->is_object() && d.is_object())
             pruneDefaults(*it, d);
+        else if (it->is_object() && d.is_null() && pinnedStatisticsDefaults(key))
+            pruneDefaults(*it, *pinnedStatisticsDefaults(key));
         else if (it->is_array() && elementDefaults().contains(key))
             for (nlohmann::json& element : *it)
                 if (element.is_object())
@@ -332,6 +335,8 @@ bool validateAdapters(const San& san, std::string& error)
                 return fail(error, name() + " drive " + d.id + " has more than 32 SMART attributes");
         if (!checkBinaryFiles(a, name(), error))
             return false;
+        if (a.fixedStatistics && !pinnedStatisticsProblem(*a.fixedStatistics).empty())
+            return fail(error, name() + " fixedStatistics: " + pinnedStatisticsProblem(*a.fixedStatistics));
     }
     return true;
 }

@@ -14,6 +14,7 @@
 #include <cstring>
 #include <limits>
 #include <numeric>
+#include <optional>
 #include <type_traits>
 
 namespace sim::codec {
@@ -239,6 +240,48 @@ private:
         close(first, "{}", '}', depth);
     }
 
+    // Present only when it differs from its default, which is absence.
+    template <class T>
+    void emit(const std::optional<T>& value, const std::optional<T>&, int depth)
+    {
+        emit(*value, elementDefault<T>(), depth);
+    }
+
+    // A figure that does not grow is a plain number.
+    void emit(const PinnedFigure& figure, const PinnedFigure&, int depth)
+    {
+        if (figure.perSecond == 0) {
+            emit(figure.value, 0LL, depth);
+            return;
+        }
+        out_ += '{';
+        newline(depth + 1);
+        out_ += "\"perSecond\": ";
+        emit(figure.perSecond, 0LL, depth + 1);
+        out_ += ',';
+        newline(depth + 1);
+        out_ += "\"value\": ";
+        emit(figure.value, 0LL, depth + 1);
+        close(false, "{}", '}', depth);
+    }
+
+    // [name, value] or [name, value, perSecond].
+    void emit(const PinnedCounter& counter, const PinnedCounter&, int depth)
+    {
+        out_ += '[';
+        newline(depth + 1);
+        string(counter.name);
+        out_ += ',';
+        newline(depth + 1);
+        emit(counter.figure.value, 0LL, depth + 1);
+        if (counter.figure.perSecond != 0) {
+            out_ += ',';
+            newline(depth + 1);
+            emit(counter.figure.perSecond, 0LL, depth + 1);
+        }
+        close(false, "[]", ']', depth);
+    }
+
     void emit(const std::string& text, const std::string&, int) { string(text); }
     // As adapterIdText writes it: upper-case hexadecimal digits.
     void emit(const AdapterId& id, const AdapterId&, int)
@@ -450,6 +493,47 @@ public:
                 return false;
         } while (take(','));
         return take('}');
+    }
+
+    // A null is left to the general path, which reads it as absent.
+    template <class T>
+    bool value(std::optional<T>& present)
+    {
+        return value(present.emplace());
+    }
+
+    bool value(PinnedFigure& figure)
+    {
+        figure = PinnedFigure{};
+        skipSpace();
+        if (p_ == end_ || *p_ != '{')
+            return value(figure.value);
+        ++p_;
+        bool seenValue = false, seenPace = false;
+        do {
+            std::string_view key;
+            if (!plainKey(key) || !take(':'))
+                return false;
+            if (key == "value" && !seenValue)
+                seenValue = value(figure.value);
+            else if (key == "perSecond" && !seenPace)
+                seenPace = value(figure.perSecond);
+            else
+                return false;
+            if ((key == "value" && !seenValue) || (key == "perSecond" && !seenPace))
+                return false;
+        } while (take(','));
+        return take('}');
+    }
+
+    bool value(PinnedCounter& counter)
+    {
+        counter = PinnedCounter{};
+        if (!take('[') || !value(counter.name) || !take(',') || !value(counter.figure.value))
+            return false;
+        if (take(',') && !value(counter.figure.perSecond))
+            return false;
+        return take(']');
     }
 
     bool value(bool& flag)

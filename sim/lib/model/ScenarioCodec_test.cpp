@@ -99,7 +99,47 @@ struct Perturb {
         if (pick())
             visitFields(*this, object);
     }
+
+    template <class T>
+    void operator()(const char*, std::optional<T>& present)
+    {
+        if (pick())
+            visitFields(*this, present.emplace());
+    }
+
+    void operator()(const char*, PinnedFigure& figure)
+    {
+        if (!pick())
+            return;
+        figure.value += 7 + seed;
+        if (seed % 2)
+            figure.perSecond = -seed;
+    }
+
+    void operator()(const char*, PinnedCounter& counter)
+    {
+        counter.name = oddText(seed);
+        (*this)("", counter.figure);
+    }
 };
+
+// Statistics pinned in every form the scenario allows.
+San pinnedSan()
+{
+    San san = defaultSan();
+    FixedStatistics& fixed = san.adapters[0].fixedStatistics.emplace();
+    fixed.counters = {{"UpTime", {3600, 1}}, {"Cache Pool Max MB", {819200, 0}}, {"", {-5, 0}}, {"UpTime", {1, 0}}};
+    fixed.hostPcie.assign(kHostPcieFields, 0);
+    fixed.hostPcie[9] = 4096;
+    fixed.hostPcie[25] = 0xFFFFFFFFll;
+    fixed.adapter.readData = {1000, 50};
+    san.adapters[1].fixedStatistics.emplace();
+    FixedIoStatistics& io = san.luns[0].fixedIoStatistics.emplace();
+    io.readCount = {100, 10};
+    io.cleanBytes = {1ll << 40, 0};
+    san.luns[1].fixedIoStatistics.emplace();
+    return san;
+}
 
 San perturbed(int every, int seed)
 {
@@ -130,6 +170,7 @@ std::vector<std::pair<std::string, San>> sampleSans()
         {"every field off", perturbed(1, 1)},
         {"every second field off", perturbed(2, 2)},
         {"every third field off", perturbed(3, 5)},
+        {"pinned statistics", pinnedSan()},
         {"special numbers", special},
     };
 }

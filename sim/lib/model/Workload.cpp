@@ -46,20 +46,67 @@ u32 percentOf(u64 part, u64 whole)
     return whole ? static_cast<u32>(std::min<u64>(10000, part * 10000 / whole)) : 0;
 }
 
+// Seconds since the LUN's counters were last cleared, on this adapter or
+// for the LUN alone.
+u64 lunElapsed(const Lun& lun, const Adapter& viewer, long long now)
+{
+    return elapsedSince(std::max(lun.statsClearedAt, viewer.statsClearedAt), now);
+}
+
+LunLoad pinnedLunLoad(const FixedIoStatistics& fixed, long long seconds)
+{
+    auto at = [&](const PinnedFigure& figure) { return static_cast<u64>(figure.at(seconds)); };
+    LunLoad load;
+    load.readCount = at(fixed.readCount);
+    load.writeCount = at(fixed.writeCount);
+    load.readBlocks = at(fixed.readBlocks);
+    load.writeBlocks = at(fixed.writeBlocks);
+    load.readHitPercent = static_cast<u32>(at(fixed.readHitPercent));
+    load.writeHitPercent = static_cast<u32>(at(fixed.writeHitPercent));
+    load.readBytes = at(fixed.totalRead);
+    load.writtenBytes = at(fixed.totalWritten);
+    load.writeHitBytes = at(fixed.writeHitBytes);
+    load.readHitBytes = at(fixed.readHitBytes);
+    load.cleanBytes = at(fixed.cleanBytes);
+    load.dirtyBytes = at(fixed.dirtyBytes);
+    load.lockedBytes = at(fixed.lockedBytes);
+    return load;
+}
+
+AdapterCacheFigures pinnedCacheFigures(const PinnedAdapterFigures& fixed, long long seconds)
+{
+    auto at = [&](const PinnedFigure& figure) { return static_cast<u64>(figure.at(seconds)); };
+    AdapterCacheFigures f;
+    f.totalCapacity = at(fixed.totalCapacity);
+    f.usedCapacity = at(fixed.usedCapacity);
+    f.readData = at(fixed.readData);
+    f.writeLoadHits = at(fixed.writeLoadHits);
+    f.readLoadHits = at(fixed.readLoadHits);
+    f.usedPercentA = static_cast<u32>(at(fixed.usedPercentFirst));
+    f.usedPercentB = static_cast<u32>(at(fixed.usedPercentSecond));
+    f.readLoadPercent = static_cast<u32>(at(fixed.readLoadPercent));
+    f.writeLoadPercent = static_cast<u32>(at(fixed.writeLoadPercent));
+    return f;
+}
+
 } // namespace
 
 LunLoad lunLoad(const San& san, const Lun& lun, const Adapter& viewer, long long now)
 {
     (void)san;
+    if (lun.fixedIoStatistics)
+        return pinnedLunLoad(*lun.fixedIoStatistics, static_cast<long long>(lunElapsed(lun, viewer, now)));
     LunLoad load;
     if (!carriesIo(lun))
         return load;
-    u64 t = elapsedSince(std::max(lun.statsClearedAt, viewer.statsClearedAt), now);
+    u64 t = lunElapsed(lun, viewer, now);
     Pace p = paceOf(lun);
     load.readCount = p.readsPerSec * t;
     load.writeCount = p.writesPerSec * t;
     load.readBlocks = load.readCount * p.blocksPerRead;
     load.writeBlocks = load.writeCount * p.blocksPerWrite;
+    load.readBytes = load.readBlocks * 512;
+    load.writtenBytes = load.writeBlocks * 512;
     if (lun.cached && lun.cache.adapter == viewer.id) {
         u64 readBytes = load.readBlocks * 512;
         u64 s = seedOf(lun.wwuln);
@@ -79,6 +126,9 @@ LunLoad lunLoad(const San& san, const Lun& lun, const Adapter& viewer, long long
 
 AdapterCacheFigures adapterCacheFigures(const San& san, const Adapter& a, long long now)
 {
+    if (a.fixedStatistics)
+        return pinnedCacheFigures(a.fixedStatistics->adapter,
+                                  static_cast<long long>(elapsedSince(a.statsClearedAt, now)));
     AdapterCacheFigures f;
     f.totalCapacity = a.cachePoolBytes;
     for (const Lun& l : san.luns) {
@@ -102,6 +152,12 @@ AdapterCacheFigures adapterCacheFigures(const San& san, const Adapter& a, long l
 std::array<u32, 26> hostPcieFigures(const San& san, const Adapter& a, long long now)
 {
     std::array<u32, 26> v{};
+    if (a.fixedStatistics) {
+        const std::vector<long long>& pinned = a.fixedStatistics->hostPcie;
+        for (size_t i = 0; i < v.size() && i < pinned.size(); ++i)
+            v[i] = static_cast<u32>(pinned[i]);
+        return v;
+    }
     u64 reads = 0, writes = 0, readBlocks = 0, writeBlocks = 0;
     for (const Lun& l : san.luns) {
         LunLoad load = lunLoad(san, l, a, now);
@@ -140,6 +196,13 @@ std::array<u32, 26> hostPcieFigures(const San& san, const Adapter& a, long long 
 
 std::vector<std::pair<std::string, long long>> cacheCounters(const San& san, const Adapter& a, long long now)
 {
+    if (a.fixedStatistics) {
+        long long const seconds = static_cast<long long>(elapsedSince(a.statsClearedAt, now));
+        std::vector<std::pair<std::string, long long>> pinned;
+        for (const PinnedCounter& counter : a.fixedStatistics->counters)
+            pinned.emplace_back(counter.name, counter.figure.at(seconds));
+        return pinned;
+    }
     u64 reads = 0, writes = 0, readBlocks = 0, writeBlocks = 0, rlHits = 0, wlHits = 0, cached = 0, dirty = 0;
     for (const Lun& l : san.luns) {
         LunLoad load = lunLoad(san, l, a, now);
