@@ -1,9 +1,17 @@
 #include "scripting/CsvFileInfo.h"
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "core/Token.h"
+#include "scripting/CsvOutputFile.h"
 
 namespace {
 
@@ -197,4 +205,179 @@ std::string CsvFileInfo::getFileIdentificationPart(unsigned index) const
 void CsvFileInfo::csvCloseFile()
 {
     closeFile();
+}
+
+// ---- writing ----------------------------------------------------------------
+
+namespace {
+
+void appendCell(std::string& row, char const* format, double value)
+{
+    char cell[64];
+    int const length = std::snprintf(cell, sizeof cell, format, value);
+    row.append(cell, static_cast<std::size_t>(std::clamp(length, 0, static_cast<int>(sizeof cell) - 1)));
+    row += ',';
+}
+
+void appendCells(std::string& row, std::vector<double> const& values)
+{
+    for (double value : values)
+        appendCell(row, "%f", value);
+}
+
+// The count with at most three digits, as the files have always shown it.
+void appendCount(std::string& row, unsigned count)
+{
+    char cell[CsvFileInfo::kCountDigits + 1];
+    std::snprintf(cell, sizeof cell, "%d", static_cast<int>(count));
+    row += cell;
+    row += ',';
+}
+
+// Each of the first `groups` names, then its values from `next` up to the
+// end mark.
+void appendGroups(std::string& row, std::vector<std::string> const& names, std::size_t groups,
+                  std::vector<double> const& values, std::size_t next)
+{
+    for (std::size_t group = 0; group < groups && group < names.size(); ++group) {
+        row += names[group];
+        row += ',';
+        for (; next < values.size() && values[next] != CsvFileInfo::kEndOfGroup; ++next)
+            appendCell(row, "%f", values[next]);
+        ++next; // past the end mark
+    }
+}
+
+// The LUN totals and groups, and the mirror groups.
+void appendLunGroups(std::string& row, unsigned count, std::vector<std::string> const& names,
+                     std::vector<double> const& values, std::vector<std::string> const& mirrorNames,
+                     std::vector<double> const& mirrorValues)
+{
+    for (std::size_t i = 0; i < 2; ++i)
+        appendCell(row, "%f", i < values.size() ? values[i] : 0.0);
+    appendGroups(row, names, count, values, 2);
+    appendGroups(row, mirrorNames, mirrorNames.size(), mirrorValues, 0);
+}
+
+off_t fileLength(FILE* file)
+{
+    struct stat about {};
+    return fstat(fileno(file), &about) == 0 ? about.st_size : 0;
+}
+
+// Writes `text` with one fwrite; on failure the file is cut back to where
+// it was, so that no partial row stays behind.
+bool writeWholeOrNothing(std::string const& path, char const* mode, std::string const& text, std::string& err)
+{
+    FILE* file = nullptr;
+    if (!Token::safe_fopen(&file, path, mode, err))
+        return false;
+    off_t const before = fileLength(file);
+    errno = 0;
+    bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size() && std::fflush(file) == 0;
+    if (!written) {
+        err = CsvOutputFile::writeFailureText(path);
+        (void)ftruncate(fileno(file), before);
+    }
+    errno = 0;
+    if (std::fclose(file) != 0 && written) {
+        err = CsvOutputFile::writeFailureText(path);
+        (void)truncate(path.c_str(), before);
+        written = false;
+    }
+    return written;
+}
+
+bool exists(std::string const& path)
+{
+    struct stat about {};
+    return stat(path.c_str(), &about) == 0;
+}
+
+} // namespace
+
+std::string CsvFileInfo::rowStart(PTime const& time, std::string const& adapterId)
+{
+    return time.displayLocalDate() + "," + time.displayLocalTime() + "," + adapterId + ",";
+}
+
+bool CsvFileInfo::appendRow(std::string const& folder, std::string const& fileName, std::string const& title,
+                            std::string const& row, bool first, std::string& err)
+{
+    std::string const path = folder + "/" + fileName;
+    std::string output;
+    if (first) {
+        // One level only: a folder whose parent is missing shows in the
+        // open's message.
+        if (!exists(folder))
+            (void)mkdir(folder.c_str(), 0755);
+        output = title + "\n";
+    } else if (!exists(path)) {
+        output = title + "\n"; // removed during the run: it comes back whole
+    }
+    output += row;
+    output += '\n';
+    return writeWholeOrNothing(path, first ? "w" : "a", output, err);
+}
+
+bool CsvFileInfo::csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                                std::string const& title, PTime const& time, std::vector<long long> const& values,
+                                bool first, std::string& err)
+{
+    std::string row = rowStart(time, adapterId);
+    for (long long value : values) {
+        row += std::to_string(value);
+        row += ',';
+    }
+    return appendRow(folder, fileName, title, row, first, err);
+}
+
+bool CsvFileInfo::csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                                std::string const& title, PTime const& time, std::vector<double> const& values,
+                                bool first, std::string& err)
+{
+    std::string row = rowStart(time, adapterId);
+    appendCells(row, values);
+    return appendRow(folder, fileName, title, row, first, err);
+}
+
+bool CsvFileInfo::csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                                std::string const& title, PTime const& time, unsigned count,
+                                std::vector<double> const& global, std::vector<std::string> const& names,
+                                std::vector<double> const& values, std::vector<std::string> const& mirrorNames,
+                                std::vector<double> const& mirrorValues, bool first, std::string& err)
+{
+    std::string row = rowStart(time, adapterId);
+    appendCells(row, global);
+    appendCount(row, count);
+    appendLunGroups(row, count, names, values, mirrorNames, mirrorValues);
+    return appendRow(folder, fileName, title, row, first, err);
+}
+
+bool CsvFileInfo::csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                                std::string const& title, PTime const& time, unsigned count,
+                                std::vector<std::string> const& names, std::vector<double> const& values,
+                                std::vector<std::string> const& mirrorNames, std::vector<double> const& mirrorValues,
+                                bool first, std::string& err)
+{
+    std::string row = rowStart(time, adapterId);
+    if (count != 0) {
+        appendCount(row, count);
+        appendLunGroups(row, count, names, values, mirrorNames, mirrorValues);
+    } else {
+        appendGroups(row, mirrorNames, mirrorNames.size(), mirrorValues, 0);
+    }
+    return appendRow(folder, fileName, title, row, first, err);
+}
+
+bool CsvFileInfo::csvAppendFile(std::string const& path, std::string const& title1, std::string const& title2,
+                                PTime const& time, std::vector<double> const& values, std::string& err)
+{
+    std::string output;
+    if (!exists(path))
+        output = title1 + "\n" + title2 + "\n";
+    output += time.displayLocalDate() + "," + time.displayLocalTime() + ",";
+    appendCells(output, values);
+    output += '\n';
+    return writeWholeOrNothing(path, "a", output, err);
 }

@@ -53,8 +53,47 @@ public:
     static CSV_FILE_TYPE fileTypeOfFirstLine(std::string const& firstLine);
 
     // ---- writing ----------------------------------------------------------
-    // The statistics commands' row writers (csvAppendFile and its overloads)
-    // belong here.
+    // The statistics commands append one row per cycle. Each row is built
+    // whole in memory and written with one fwrite; a write that fails is
+    // taken back (the file is cut to its former length), so that a file never
+    // holds a partial row. False with the reason in `err`: the text of
+    // Token::safe_fopen, or "Unable to write file ..." for a failed write.
+
+    // The files of one run of the cache statistics: `folder` is made (one
+    // level) on the first cycle if it does not exist, and the first cycle
+    // replaces a file of the same name. A file that does not exist gets the
+    // title line first. The row: date, time, adapter id, then the values.
+    static bool csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                              std::string const& title, PTime const& time, std::vector<long long> const& values,
+                              bool first, std::string& err);
+    static bool csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                              std::string const& title, PTime const& time, std::vector<double> const& values,
+                              bool first, std::string& err);
+    // The summary file: the global values, the count of cached LUNs, then
+    // the two LUN totals (values[0], values[1]), each LUN's name and its
+    // values up to the end mark, and each mirror LUN likewise.
+    static bool csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                              std::string const& title, PTime const& time, unsigned count,
+                              std::vector<double> const& global, std::vector<std::string> const& names,
+                              std::vector<double> const& values, std::vector<std::string> const& mirrorNames,
+                              std::vector<double> const& mirrorValues, bool first, std::string& err);
+    // The LUN file: as the summary without global values, and without the
+    // count and totals when no LUN is cached.
+    static bool csvAppendFile(std::string const& folder, std::string const& fileName, std::string const& adapterId,
+                              std::string const& title, PTime const& time, unsigned count,
+                              std::vector<std::string> const& names, std::vector<double> const& values,
+                              std::vector<std::string> const& mirrorNames, std::vector<double> const& mirrorValues,
+                              bool first, std::string& err);
+    // The file of one LUN's statistics: appended to, never made anew, in a
+    // folder that must exist; the two title parts go first into a new file.
+    static bool csvAppendFile(std::string const& path, std::string const& title1, std::string const& title2,
+                              PTime const& time, std::vector<double> const& values, std::string& err);
+
+    // Ends the values of one LUN in the value lists of the overloads above;
+    // it never appears in a file.
+    static constexpr double kEndOfGroup = -1.0;
+    // The count of cached LUNs shows at most this many digits.
+    static constexpr std::size_t kCountDigits = 3;
 
     int32_t fileType = CSV_FILE_UNKNOWN;
     PTime sampleTime;
@@ -67,4 +106,9 @@ private:
     bool readIdentification();
     bool readTitleLines();
     void appendSampleValues(std::string const& text, std::string::size_type from);
+
+    // Date, time, adapter id.
+    static std::string rowStart(PTime const& time, std::string const& adapterId);
+    static bool appendRow(std::string const& folder, std::string const& fileName, std::string const& title,
+                          std::string const& row, bool first, std::string& err);
 };

@@ -2,7 +2,10 @@
 #include <ctime>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "scripting/CsvFileInfo.h"
 #include "support/ScratchFileTest.h"
@@ -243,4 +246,138 @@ TEST_F(CsvFileInfoTest, InitForgetsEverythingRead)
     EXPECT_TRUE(info.fileIdentification.empty());
     EXPECT_TRUE(info.titleLines.empty());
     EXPECT_FALSE(info.sampleUsed);
+}
+
+// ---- writing ----------------------------------------------------------------
+
+namespace {
+
+class CsvAppendTest : public ScratchFileTest {
+protected:
+    void SetUp() override
+    {
+        ScratchFileTest::SetUp();
+        time.initFromPosixTime(1795000000); // 11/18/2026 11:06:40 UTC
+    }
+
+    std::string read(std::string const& name) const
+    {
+        std::ifstream in(dir.file(name), std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    }
+
+    bool appendNumbers(bool first, std::vector<long long> const& values = {1, -2})
+    {
+        return CsvFileInfo::csvAppendFile(dir.path + "/run", "a.csv", "ID", "Date,Time,Adapter ID,x,y,", time, values,
+                                          first, err);
+    }
+
+    PTime time;
+    std::string err;
+};
+
+} // namespace
+
+TEST_F(CsvAppendTest, TheFirstCycleMakesTheFolderAndReplacesTheFile)
+{
+    ASSERT_TRUE(appendNumbers(true)) << err;
+    ASSERT_TRUE(appendNumbers(false, {3, 4}));
+    EXPECT_EQ("Date,Time,Adapter ID,x,y,\n11/18/2026,11:06:40,ID,1,-2,\n11/18/2026,11:06:40,ID,3,4,\n",
+              read("run/a.csv"));
+    // A new run in the same folder starts the file again.
+    ASSERT_TRUE(appendNumbers(true, {5, 6}));
+    EXPECT_EQ("Date,Time,Adapter ID,x,y,\n11/18/2026,11:06:40,ID,5,6,\n", read("run/a.csv"));
+}
+
+TEST_F(CsvAppendTest, AFileRemovedDuringTheRunComesBackWithItsTitle)
+{
+    ASSERT_TRUE(appendNumbers(true));
+    std::remove(dir.file("run/a.csv").c_str());
+    ASSERT_TRUE(appendNumbers(false, {7, 8}));
+    EXPECT_EQ("Date,Time,Adapter ID,x,y,\n11/18/2026,11:06:40,ID,7,8,\n", read("run/a.csv"));
+}
+
+TEST_F(CsvAppendTest, AFolderWhoseParentIsMissingFailsWithTheOpenText)
+{
+    EXPECT_FALSE(CsvFileInfo::csvAppendFile(dir.path + "/no/run", "a.csv", "ID", "t,", time, std::vector<long long>{1},
+                                            true, err));
+    EXPECT_EQ("Unable to open file \"" + dir.path + "/no/run/a.csv\", (No such file or directory)", err);
+}
+
+TEST_F(CsvAppendTest, AFolderThatIsAFileFails)
+{
+    writeFile("plain", "x");
+    EXPECT_FALSE(
+        CsvFileInfo::csvAppendFile(dir.file("plain"), "a.csv", "ID", "t,", time, std::vector<long long>{1}, true, err));
+    EXPECT_EQ("Unable to open file \"" + dir.path + "/plain/a.csv\", (Not a directory)", err);
+}
+
+TEST_F(CsvAppendTest, AFullDiskLeavesNoPartialRow)
+{
+    // /dev/full takes the open and refuses every byte written.
+    ASSERT_EQ(0, mkdir(dir.file("run").c_str(), 0755));
+    ASSERT_EQ(0, symlink("/dev/full", dir.file("run/a.csv").c_str()));
+    EXPECT_FALSE(appendNumbers(false));
+    EXPECT_EQ("Unable to write file \"" + dir.path + "/run/a.csv\", (No space left on device)", err);
+    std::string lunErr;
+    EXPECT_FALSE(CsvFileInfo::csvAppendFile(dir.file("run/a.csv"), "t1", "t2", time, {1.0}, lunErr));
+    EXPECT_EQ(err, lunErr);
+}
+
+TEST_F(CsvAppendTest, FloatingValuesAreWrittenWithSixDecimals)
+{
+    ASSERT_TRUE(
+        CsvFileInfo::csvAppendFile(dir.path, "f.csv", "ID", "T,", time, std::vector<double>{0.5, -1.25, 3}, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,0.500000,-1.250000,3.000000,\n", read("f.csv"));
+}
+
+TEST_F(CsvAppendTest, TheSummaryRowHasGlobalValuesCountTotalsAndGroups)
+{
+    std::vector<double> const values = {100, 50, 1, 2, CsvFileInfo::kEndOfGroup, 3, CsvFileInfo::kEndOfGroup};
+    std::vector<double> const mirror = {9, CsvFileInfo::kEndOfGroup};
+    ASSERT_TRUE(CsvFileInfo::csvAppendFile(dir.path, "s.csv", "ID", "T,", time, 2, {0.5}, {"L1", "L2"}, values, {"M1"},
+                                           mirror, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,0.500000,2,100.000000,50.000000,L1,1.000000,2.000000,L2,3.000000,M1,"
+              "9.000000,\n",
+              read("s.csv"));
+}
+
+TEST_F(CsvAppendTest, TheSummaryCountShowsAtMostThreeDigits)
+{
+    ASSERT_TRUE(
+        CsvFileInfo::csvAppendFile(dir.path, "s.csv", "ID", "T,", time, 1234, {}, {}, {0, 0}, {}, {}, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,123,0.000000,0.000000,\n", read("s.csv"));
+    ASSERT_TRUE(CsvFileInfo::csvAppendFile(dir.path, "s.csv", "ID", "T,", time, 0, {}, {}, {0, 0}, {}, {}, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,0,0.000000,0.000000,\n", read("s.csv"));
+}
+
+TEST_F(CsvAppendTest, TheLunFileLeavesOutCountAndTotalsWithoutLuns)
+{
+    std::vector<double> const mirror = {7, 8, CsvFileInfo::kEndOfGroup};
+    ASSERT_TRUE(CsvFileInfo::csvAppendFile(dir.path, "l.csv", "ID", "T,", time, 0, {}, {}, {"M"}, mirror, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,M,7.000000,8.000000,\n", read("l.csv"));
+    std::vector<double> const values = {10, 20, 5, CsvFileInfo::kEndOfGroup};
+    ASSERT_TRUE(CsvFileInfo::csvAppendFile(dir.path, "l.csv", "ID", "T,", time, 1, {"L"}, values, {}, {}, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,1,10.000000,20.000000,L,5.000000,\n", read("l.csv"));
+}
+
+TEST_F(CsvAppendTest, GroupsWithoutTheirValuesEndAtTheList)
+{
+    ASSERT_TRUE(
+        CsvFileInfo::csvAppendFile(dir.path, "l.csv", "ID", "T,", time, 2, {"L1", "L2"}, {1}, {}, {}, true, err));
+    EXPECT_EQ("T,\n11/18/2026,11:06:40,ID,2,1.000000,0.000000,L1,L2,\n", read("l.csv"));
+}
+
+TEST_F(CsvAppendTest, ALunFileGetsItsTitlesOnlyWhenNewAndIsNeverMade)
+{
+    std::string const path = dir.file("lun1vpg1_x.csv");
+    ASSERT_TRUE(CsvFileInfo::csvAppendFile(path, "LUN,1,", "a\nb\n", time, {1, 2}, err));
+    ASSERT_TRUE(CsvFileInfo::csvAppendFile(path, "LUN,1,", "a\nb\n", time, {3}, err));
+    EXPECT_EQ("LUN,1,\na\nb\n\n11/18/2026,11:06:40,1.000000,2.000000,\n11/18/2026,11:06:40,3.000000,\n",
+              read("lun1vpg1_x.csv"));
+    EXPECT_FALSE(CsvFileInfo::csvAppendFile(dir.file("none/l.csv"), "t", "t", time, {1}, err));
+    EXPECT_EQ("Unable to open file \"" + dir.path + "/none/l.csv\", (No such file or directory)", err);
+    ASSERT_EQ(0, mkdir(dir.file("isdir.csv").c_str(), 0755));
+    EXPECT_FALSE(CsvFileInfo::csvAppendFile(dir.file("isdir.csv"), "t", "t", time, {1}, err));
+    EXPECT_EQ("Unable to open file \"" + dir.path + "/isdir.csv\", (Is a directory)", err);
 }

@@ -44,7 +44,7 @@ bool CsvOutputFile::close(std::string& err)
     return flushed;
 }
 
-std::string CsvOutputFile::failureText() const
+std::string CsvOutputFile::writeFailureText(std::string const& path)
 {
-    return "Unable to write file \"" + name + "\", (" + std::strerror(errno != 0 ? errno : EIO) + ")";
+    return "Unable to write file \"" + path + "\", (" + std::strerror(errno != 0 ? errno : EIO) + ")";
 }

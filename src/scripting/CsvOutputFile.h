@@ -23,8 +23,11 @@ public:
     // False when the last buffered bytes could not be written.
     bool close(std::string& err);
 
+    // The reason of a failed write to `path`, from errno (EIO if unset).
+    static std::string writeFailureText(std::string const& path);
+
 private:
-    std::string failureText() const;
+    std::string failureText() const { return writeFailureText(name); }
 
     FILE* file = nullptr;
     std::string name;

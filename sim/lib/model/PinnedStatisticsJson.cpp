@@ -48,8 +48,8 @@ void from_json(const nlohmann::json& j, PinnedFigure& figure)
         else if (it.key() == "perSecond")
             figure.perSecond = wholeNumber(*it, "\"perSecond\"");
         else
-            throw std::invalid_argument("a statistics figure has only \"value\" and \"perSecond\", not \"" +
-                                        it.key() + "\"");
+            throw std::invalid_argument("a statistics figure has only \"value\" and \"perSecond\", not \"" + it.key() +
+                                        "\"");
     }
 }
 

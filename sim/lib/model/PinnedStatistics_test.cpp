@@ -118,11 +118,14 @@ TEST(PinnedStatisticsTest, ALunAnswersItsPinnedCountersToEveryAdapter)
 
 TEST(PinnedStatisticsTest, ExportKeepsTheShortForms)
 {
-    San san = read(scenario(R"({"counters": [["A", 1], ["B", 2, 3]], "adapter": {"readData": {"value": 4, "perSecond": 0}}})",
-                            R"({"dirtyBytes": {"value": 0, "perSecond": 5}})"));
+    San san =
+        read(scenario(R"({"counters": [["A", 1], ["B", 2, 3]], "adapter": {"readData": {"value": 4, "perSecond": 0}}})",
+                      R"({"dirtyBytes": {"value": 0, "perSecond": 5}})"));
     std::string text = scenarioToText(san);
-    EXPECT_NE(text.find("\"counters\": [\n     [\n      \"A\",\n      1\n     ],\n     [\n      \"B\",\n      2,\n      3\n     ]"),
-              std::string::npos)
+    EXPECT_NE(
+        text.find(
+            "\"counters\": [\n     [\n      \"A\",\n      1\n     ],\n     [\n      \"B\",\n      2,\n      3\n     ]"),
+        std::string::npos)
         << text;
     // A figure that does not grow is written as a number.
     EXPECT_NE(text.find("\"readData\": 4\n"), std::string::npos) << text;
@@ -169,7 +172,8 @@ TEST(PinnedStatisticsTest, MoreThan256CountersAreAcceptedAndCut)
 
 TEST(PinnedStatisticsTest, MalformedPinnedFiguresAreRefused)
 {
-    EXPECT_EQ(refusal(scenario(R"({"hostPcie": [1, 2]})")), "f: adapter A0 fixedStatistics: hostPcie has 2 numbers, not 26");
+    EXPECT_EQ(refusal(scenario(R"({"hostPcie": [1, 2]})")),
+              "f: adapter A0 fixedStatistics: hostPcie has 2 numbers, not 26");
     std::string negative = "[-1" + std::string(25 * 2, ' ') + "]";
     for (int i = 0; i < 25; ++i)
         negative.replace(negative.find(' '), 2, ",0");
