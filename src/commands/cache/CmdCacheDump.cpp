@@ -1,19 +1,17 @@
 #include "commands/cache/CmdCacheDump.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
-#include <unistd.h>
 
 #include "api/HbaMgmtInterfaces.h"
 #include "api/HbaMgmtLoader.h"
 #include "commands/CommandDeclaration.h"
-#include "commands/CommandOutput.h"
 #include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
 #include "core/Token.h"
 #include "core/ZekcliReturn.h"
 #include "records/KIsaAdapterPath.h"
+#include "statistics/StatisticsLoop.h"
 
 namespace {
 
@@ -26,7 +24,6 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
 
 // What the library is asked to write: the cache summary of the adapter.
 constexpr int kCacheSummaryDump = 2;
-constexpr int kLongestInterval = 100000;
 
 // The lines of an open file, each ended by a new line, a last line without
 // its end included so that nothing the adapter wrote is lost.
@@ -68,11 +65,9 @@ int CmdCacheDump::execCommand(std::string& err)
     AddressedAdapter addressed;
     if (int const rc = findAddressedAdapter(*this, addressed, err))
         return rc;
-    int interval = 0;
-    bool intervalGiven = false;
-    if (!getNumberFromCommandLineModifierIfFound(ModifierId::MODIFIER_INTERVAL, 0, kLongestInterval, interval,
-                                                 intervalGiven, err))
-        return ZEKCLI_PARSE_FAIL;
+    unsigned interval = 0;
+    if (int const rc = StatisticsLoop::readInterval(*this, interval, err))
+        return rc;
     TokenModifierString const* const folderKeyword = findModifier(ModifierId::MODIFIER_FOLDER, err);
     if (!folderKeyword)
         return ZEKCLI_PARSE_FAIL;
@@ -81,7 +76,7 @@ int CmdCacheDump::execCommand(std::string& err)
     if (!createDirectoryIfItDoesNotExist(folder, err))
         return ZEKCLI_PARSE_FAIL;
     if (interval > 0)
-        return dumpRepeatedly(*addressed.adapter, folder, static_cast<unsigned int>(interval), err);
+        return dumpRepeatedly(*addressed.adapter, folder, interval, err);
 
     std::string const path = folder + "/" + getCacheInfoFileName(addressed.adapter->getAdapterPath()->hbaIDText());
     e_MHBA_RETURN const rc = addressed.adapter->saveCacheDump(kCacheSummaryDump, path);
@@ -97,25 +92,20 @@ int CmdCacheDump::execCommand(std::string& err)
 int CmdCacheDump::dumpRepeatedly(HIsaAdapter& adapter, std::string const& folder, unsigned int seconds,
                                  std::string& err)
 {
-    // Runs until the process is interrupted; each round on a clean screen.
-    CommandOutput out(*this);
-    for (;;) {
-        // Without a clear screen the rounds simply follow one another.
-        (void)std::system("clear");
-        if (!out.banner(&adapter))
-            return out.end(0, err);
-        std::string const path = folder + "/" + getCacheInfoFileName(adapter.getAdapterPath()->hbaIDText());
-        e_MHBA_RETURN const rc = adapter.saveCacheDump(kCacheSummaryDump, path);
-        if (g_pHbaMgmtApi->isFailure(rc))
-            return rc;
-        std::string const text = displayCacheInfoFile(path) + "\n";
-        if (!out.line(text) || !out.line(text))
-            return out.end(0, err);
-        // The loop only ends with the process, so a round's text must not
-        // wait in a buffer that a kill would throw away.
-        fflush(stdout);
-        sleep(seconds);
-    }
+    return StatisticsLoop(*this, adapter, seconds)
+        .loop(
+            [&](StatisticsLoop::Cycle& cycle) {
+                std::string const path = folder + "/" + getCacheInfoFileName(adapter.getAdapterPath()->hbaIDText());
+                e_MHBA_RETURN const rc = adapter.saveCacheDump(kCacheSummaryDump, path);
+                if (g_pHbaMgmtApi->isFailure(rc))
+                    return static_cast<int>(rc);
+                std::string const text = displayCacheInfoFile(path) + "\n";
+                // Each round shows the summary twice.
+                if (cycle.out.line(text))
+                    cycle.out.line(text);
+                return StatisticsLoop::kNextCycle;
+            },
+            err);
 }
 
 std::string CmdCacheDump::getCacheInfoFileName(std::string const& adapterText) const
