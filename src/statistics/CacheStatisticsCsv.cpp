@@ -36,7 +36,8 @@ constexpr char const* kSummaryTitleGroups[] = {
     "(MB), % of Read Data, Cache Hits (Total) (MB), % of Read Data, \t\t\t\t  ",
     "RAM Read Cache Hits from Read, %, SSD Read Cache Hits from Read, %, SSD Read Cache Hits Overwrite, %, SSD Read "
     "Cache Hits from Write, %,\t\t\t\t  ",
-    "New SSD Read Cache from Read Count, New SSD Read Cache from Read Size (MB), SSD Read Bypass Size (MB), %, SSD Read "
+    "New SSD Read Cache from Read Count, New SSD Read Cache from Read Size (MB), SSD Read Bypass Size (MB), %, SSD "
+    "Read "
     "Bypass Memory (MB), %, \t\t\t\t  ",
     "SSD Write Cache Writes, SSD Read Cache Overwrites, %, SSD Write Cache Overwrites, %, New SSD Write Cache Writes, "
     "%, SSD Ccahe Freed, SSD Write Bypass Size (MB), %, SSD Write Bypass Memory (MB), %,\t\t\t\t  ",
@@ -123,9 +124,9 @@ double ratio(unsigned long long part, unsigned long long whole)
 void appendStream(std::vector<double>& values, CacheStatisticsModel::Stream const& s)
 {
     auto half = [](long long blocks) { return static_cast<double>(blocks) * 0.5; };
-    values.insert(values.end(), {static_cast<double>(s.ios.value), half(s.min.value), half(s.max.value),
-                                 half(s.avg.value), static_cast<double>(s.iops.value),
-                                 static_cast<double>(s.kbs.value)});
+    values.insert(values.end(),
+                  {static_cast<double>(s.ios.value), half(s.min.value), half(s.max.value), half(s.avg.value),
+                   static_cast<double>(s.iops.value), static_cast<double>(s.kbs.value)});
 }
 
 void appendFigures(std::vector<double>& values, std::initializer_list<CacheStatisticsModel::Figure> figures)
@@ -155,8 +156,8 @@ bool CacheStatisticsCsv::writeCsvFile(std::string const& adapterId, KCacheInfoLi
     }
     PTime now;
     now.initFromLocalTime();
-    return CsvFileInfo::csvAppendFile(folder, adapterId + "_cache_statistics.csv", adapterId, title, now, values,
-                                      first, err);
+    return CsvFileInfo::csvAppendFile(folder, adapterId + "_cache_statistics.csv", adapterId, title, now, values, first,
+                                      err);
 }
 
 bool CacheStatisticsCsv::writeHostPcieCsvFile(std::string const& adapterId, KHostPcieInfo const& host, bool first,
@@ -240,16 +241,26 @@ std::vector<double> CacheStatisticsCsv::lunValues(bool inMegabytes) const
         KLunCacheInfo const& c = lun.sample->cache();
         KLunCacheStatistics const& s = lun.sample->statistics();
         values.insert(values.end(),
-                      {static_cast<double>(c.eCacheMode), shiftedOrNot(lun.sizeBytes, inMegabytes),
-                       ratio(lun.sizeBytes, model.totalLunBytes), shiftedOrNot(lun.cacheableBytes, inMegabytes),
-                       ratio(lun.cacheableBytes, model.totalCacheableBytes), static_cast<double>(c.ui32MaxRead),
-                       static_cast<double>(c.ui32MinRead), static_cast<double>(c.ui32MaxWrite),
-                       static_cast<double>(c.ui32MinWrite), static_cast<double>(c.ui32LockedRangeCount),
-                       bytesOrMegabytes(s.ui64ReadHitBytes, inMegabytes), s.ui32ReadHitPercent / 100.0,
-                       bytesOrMegabytes(s.ui64WriteHitBytes, inMegabytes), s.ui32WriteHitPercent / 100.0,
-                       bytesOrMegabytes(s.ui64TotalRead, inMegabytes), bytesOrMegabytes(s.ui64TotalWritten, inMegabytes),
-                       bytesOrMegabytes(s.ui64CleanBytes, inMegabytes), bytesOrMegabytes(s.ui64DirtyBytes, inMegabytes),
-                       bytesOrMegabytes(s.ui64LockedBytes, inMegabytes), CsvFileInfo::kEndOfGroup});
+                      {static_cast<double>(c.eCacheMode),
+                       shiftedOrNot(lun.sizeBytes, inMegabytes),
+                       ratio(lun.sizeBytes, model.totalLunBytes),
+                       shiftedOrNot(lun.cacheableBytes, inMegabytes),
+                       ratio(lun.cacheableBytes, model.totalCacheableBytes),
+                       static_cast<double>(c.ui32MaxRead),
+                       static_cast<double>(c.ui32MinRead),
+                       static_cast<double>(c.ui32MaxWrite),
+                       static_cast<double>(c.ui32MinWrite),
+                       static_cast<double>(c.ui32LockedRangeCount),
+                       bytesOrMegabytes(s.ui64ReadHitBytes, inMegabytes),
+                       s.ui32ReadHitPercent / 100.0,
+                       bytesOrMegabytes(s.ui64WriteHitBytes, inMegabytes),
+                       s.ui32WriteHitPercent / 100.0,
+                       bytesOrMegabytes(s.ui64TotalRead, inMegabytes),
+                       bytesOrMegabytes(s.ui64TotalWritten, inMegabytes),
+                       bytesOrMegabytes(s.ui64CleanBytes, inMegabytes),
+                       bytesOrMegabytes(s.ui64DirtyBytes, inMegabytes),
+                       bytesOrMegabytes(s.ui64LockedBytes, inMegabytes),
+                       CsvFileInfo::kEndOfGroup});
     }
     return values;
 }
@@ -259,8 +270,9 @@ std::vector<double> CacheStatisticsCsv::mirrorLunValues(bool inMegabytes) const
     std::vector<double> values;
     values.reserve(model.mirrorLuns.size() * 3);
     for (CacheStatisticsModel::MirrorLun const& lun : model.mirrorLuns)
-        values.insert(values.end(), {shiftedOrNot(lun.info->ui64LunSizeBytes, inMegabytes),
-                                     shiftedOrNot(lun.dirtyBytes, inMegabytes), CsvFileInfo::kEndOfGroup});
+        values.insert(values.end(),
+                      {shiftedOrNot(lun.info->ui64LunSizeBytes, inMegabytes), shiftedOrNot(lun.dirtyBytes, inMegabytes),
+                       CsvFileInfo::kEndOfGroup});
     return values;
 }
 
@@ -269,10 +281,10 @@ std::vector<double> CacheStatisticsCsv::summaryValues(KHostPcieInfo const& host)
     auto field = [&](unsigned index) { return static_cast<double>(host.fieldAt(index)); };
     auto latency = [&](unsigned index) { return host.fieldAt(index) / 1000.0; };
     auto kilobytes = [&](unsigned index) { return static_cast<double>(host.fieldAt(index) >> 10); };
-    std::vector<double> values = {latency(12), latency(13), latency(14), field(15),   latency(22),
-                                  latency(23), latency(24), field(25),   field(2),    kilobytes(7),
-                                  kilobytes(8), kilobytes(9), field(6),  kilobytes(10), field(4),
-                                  kilobytes(17), kilobytes(18), kilobytes(19), field(16), kilobytes(20)};
+    std::vector<double> values = {latency(12),   latency(13),   latency(14),   field(15),     latency(22),
+                                  latency(23),   latency(24),   field(25),     field(2),      kilobytes(7),
+                                  kilobytes(8),  kilobytes(9),  field(6),      kilobytes(10), field(4),
+                                  kilobytes(17), kilobytes(18), kilobytes(19), field(16),     kilobytes(20)};
     for (CacheStatisticsModel::Stream const& stream : model.streams)
         appendStream(values, stream);
     for (CacheStatisticsModel::Capacity const& line : model.capacities) {
@@ -283,10 +295,10 @@ std::vector<double> CacheStatisticsCsv::summaryValues(KHostPcieInfo const& host)
     for (CacheStatisticsModel::Hits const& line : model.hits)
         values.insert(values.end(), {static_cast<double>(line.count.value), static_cast<double>(line.percent)});
     CacheStatisticsModel::Analysis const& a = model.analysis;
-    appendFigures(values, {a.flushes, a.flushedMib, a.readBypassSize, a.readBypassSizePercent, a.readBypassMemory,
-                           a.readBypassMemoryPercent, a.writes, a.readOverwrites, a.readOverwritePercent,
-                           a.writeOverwrites, a.writeOverwritePercent, a.newWrites, a.newWritePercent, a.freed,
-                           a.writeBypassSize, a.writeBypassSizePercent, a.writeBypassMemory,
-                           a.writeBypassMemoryPercent});
+    appendFigures(values,
+                  {a.flushes, a.flushedMib, a.readBypassSize, a.readBypassSizePercent, a.readBypassMemory,
+                   a.readBypassMemoryPercent, a.writes, a.readOverwrites, a.readOverwritePercent, a.writeOverwrites,
+                   a.writeOverwritePercent, a.newWrites, a.newWritePercent, a.freed, a.writeBypassSize,
+                   a.writeBypassSizePercent, a.writeBypassMemory, a.writeBypassMemoryPercent});
     return values;
 }

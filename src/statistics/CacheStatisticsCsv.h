@@ -12,16 +12,13 @@
 class CacheStatisticsCsv {
 public:
     // `folder` is the folder of this run.
-    CacheStatisticsCsv(CacheStatisticsModel const& model, std::string const& folder) : model(model), folder(folder)
-    {
-    }
+    CacheStatisticsCsv(CacheStatisticsModel const& model, std::string const& folder) : model(model), folder(folder) {}
 
     // The four files in their order; false, with the reason in `err`, at
     // the first that cannot be written. `first` starts the files anew.
     bool writeFiles(std::string const& adapterId, bool first, std::string& err) const;
 
-    bool writeCsvFile(std::string const& adapterId, KCacheInfoList const& counters, bool first,
-                      std::string& err) const;
+    bool writeCsvFile(std::string const& adapterId, KCacheInfoList const& counters, bool first, std::string& err) const;
     bool writeHostPcieCsvFile(std::string const& adapterId, KHostPcieInfo const& host, bool first,
                               std::string& err) const;
     bool writeLunCacheCsvFile(std::string const& adapterId, bool first, std::string& err) const;

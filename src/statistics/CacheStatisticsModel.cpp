@@ -28,9 +28,7 @@ std::string wwulnText(KLunInfo const& info)
 // the previous table is empty.
 class CounterPair {
 public:
-    CounterPair(KCacheInfoList const& now, KCacheInfoList const* before) : now(now), before(before ? *before : empty)
-    {
-    }
+    CounterPair(KCacheInfoList const& now, KCacheInfoList const* before) : now(now), before(before ? *before : empty) {}
 
     long long current(char const* name) const { return lookUp(now, name).value; }
     long long previous(char const* name) const { return lookUp(before, name).value; }

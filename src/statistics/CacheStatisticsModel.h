@@ -45,9 +45,9 @@ struct CacheStatisticsModel {
     // The bypass and overwrite analysis. Each share is taken within its own
     // sample; its change is this sample's share minus the previous one's.
     struct Analysis {
-        Figure flushes;         // new SSD read cache, in fills of 1/32 MiB
-        Figure flushedMib;      // the same in whole MiB
-        Figure readBypassSize;  // counts, and their shares of all read IOs
+        Figure flushes;        // new SSD read cache, in fills of 1/32 MiB
+        Figure flushedMib;     // the same in whole MiB
+        Figure readBypassSize; // counts, and their shares of all read IOs
         Figure readBypassSizePercent;
         Figure readBypassMemory;
         Figure readBypassMemoryPercent;

@@ -1,7 +1,7 @@
 #include "statistics/CacheStatisticsSample.h"
 
-#include <string>
 #include <algorithm>
+#include <string>
 #include <unordered_set>
 
 #include "api/HIsaAdapter.h"

@@ -116,9 +116,8 @@ std::string CacheStatisticsText::streamLines() const
     std::string text;
     for (CacheStatisticsModel::Stream const& s : model.streams)
         text += formattedText("%-15s  %10s,  Min: %7sKB,  Max: %7sKB,  Avg: %7sKB,  IOPS: %5s,  KBs: %-5s\n", s.label,
-                              number(s.ios.value).c_str(), halfText(s.min.value).c_str(),
-                              halfText(s.max.value).c_str(), halfText(s.avg.value).c_str(),
-                              number(s.iops.value).c_str(), number(s.kbs.value).c_str());
+                              number(s.ios.value).c_str(), halfText(s.min.value).c_str(), halfText(s.max.value).c_str(),
+                              halfText(s.avg.value).c_str(), number(s.iops.value).c_str(), number(s.kbs.value).c_str());
     return text;
 }
 
@@ -203,14 +202,14 @@ std::string CacheStatisticsText::lunWarnings(KLunCacheInfo const& cache) const
     unsigned long long const writes = model.sample.hostPcie.avgWriteIoSize;
     std::string text;
     if (reads != 0 && reads < limitBytes(cache.ui32MinRead))
-        text += warning("read", "smaller", "min read", reads, limitBytes(cache.ui32MinRead),
-                        "reduce this LUN's min read");
+        text +=
+            warning("read", "smaller", "min read", reads, limitBytes(cache.ui32MinRead), "reduce this LUN's min read");
     if (writes != 0 && writes < limitBytes(cache.ui32MinWrite))
         text += warning("write", "smaller", "min write", reads, limitBytes(cache.ui32MinWrite),
                         "reduce this LUN's min write");
     if (reads > limitBytes(cache.ui32MaxRead))
-        text += warning("read", "bigger", "max read", reads, limitBytes(cache.ui32MaxRead),
-                        "enlarge this LUN's max read");
+        text +=
+            warning("read", "bigger", "max read", reads, limitBytes(cache.ui32MaxRead), "enlarge this LUN's max read");
     if (writes > limitBytes(cache.ui32MaxWrite))
         text += warning("write", "bigger", "max write", reads, limitBytes(cache.ui32MaxWrite),
                         "enlarge this LUN's max write");
@@ -237,8 +236,9 @@ std::string CacheStatisticsText::displayAnalysisCacheText(bool delta) const
 std::string CacheStatisticsText::analysisText() const
 {
     CacheStatisticsModel::Analysis const& a = model.analysis;
-    std::string text = formattedText("    %-33s= %9s%9s", "New SSD Read Cache from Read", number(a.flushes.value).c_str(),
-                                     unitText(mibInBytes(a.flushedMib.value)).c_str()) +
+    std::string text =
+        formattedText("    %-33s= %9s%9s", "New SSD Read Cache from Read", number(a.flushes.value).c_str(),
+                      unitText(mibInBytes(a.flushedMib.value)).c_str()) +
         "\n";
     // The first warning starts without an empty line; it always has.
     text += bypassWarning("    SSD Read Bypass Size = ", a.readBypassSizePercent, false);
@@ -257,10 +257,10 @@ std::string CacheStatisticsText::analysisText() const
 std::string CacheStatisticsText::analysisDeltaText() const
 {
     CacheStatisticsModel::Analysis const& a = model.analysis;
-    std::string text = formattedText(
-        "    %-33s= %11s%11s%7s%7s\n", "New SSD Read Cache from Read", number(a.flushes.value).c_str(),
-        inParentheses(number(a.flushes.change)).c_str(), unitText(mibInBytes(a.flushedMib.value)).c_str(),
-        inParentheses(unitText(mibInBytes(a.flushedMib.change))).c_str());
+    std::string text =
+        formattedText("    %-33s= %11s%11s%7s%7s\n", "New SSD Read Cache from Read", number(a.flushes.value).c_str(),
+                      inParentheses(number(a.flushes.change)).c_str(), unitText(mibInBytes(a.flushedMib.value)).c_str(),
+                      inParentheses(unitText(mibInBytes(a.flushedMib.change))).c_str());
     text += bypassWarning("    SSD Read Bypass Size = ", a.readBypassSizePercent, true);
     text += bypassWarning("    SSD Read Bypass Memory = ", a.readBypassMemoryPercent, true);
     text += "\n   [Cache Write]\n";

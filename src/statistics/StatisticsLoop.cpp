@@ -14,8 +14,7 @@ std::string StatisticsLoop::Cycle::clockLine() const
 
 StatisticsLoop::StatisticsLoop(TokenCmd const& cmd, HIsaAdapter& adapter, unsigned seconds)
     : cmd(cmd), adapter(adapter), seconds(seconds)
-{
-}
+{}
 
 int StatisticsLoop::readInterval(TokenCmd& cmd, unsigned& seconds, std::string& err)
 {
