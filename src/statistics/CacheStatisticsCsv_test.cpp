@@ -137,8 +137,9 @@ TEST_F(CacheStatisticsCsvTest, TheLunFileTitleSaysBytesAndKeepsItsOneSmallLetter
 {
     EXPECT_EQ(CacheStatisticsCsv::lunCacheTitle(0, 0), "Date,Time,Adapter ID,");
     std::string const title = CacheStatisticsCsv::lunCacheTitle(1, 1);
-    EXPECT_EQ(title.substr(0, 107), "Date,Time,Adapter ID,Number of Cached LUNs,Total LUN Size,Total Cacheable LUN "
-                                   "Size,LUN 1 WWULN, Cache Type,");
+    EXPECT_EQ(title.substr(0, 107),
+              "Date,Time,Adapter ID,Number of Cached LUNs,Total LUN Size,Total Cacheable LUN "
+              "Size,LUN 1 WWULN, Cache Type,");
     EXPECT_NE(title.find(" Total data written by host (bytes),"), std::string::npos);
     EXPECT_EQ(title.substr(title.size() - 48), "Mirror LUN 1 WWULN, Size (Bytes), Dirty (Bytes),");
 }
@@ -187,8 +188,9 @@ TEST_F(CacheStatisticsCsvTest, ALunsValuesInMegabytesAndInBytes)
               "16.000000,1024.000000,8.000000,0.000000,0.000000,0.000000,0.000000,0.000000,0.000000,0.000000,"
               "0.000000,0.000000,0.000000,");
     std::string const bytes = valuesOf(lines(read("ID_lun_cache_statistics.csv"))[1]);
-    EXPECT_EQ(bytes.substr(0, 121), "2,268435456000.000000,225485783040.000000,6060-6060-6060-6060-6060-6060-6060-6001,"
-                                    "2.000000,214748364800.000000,80.000000,");
+    EXPECT_EQ(bytes.substr(0, 121),
+              "2,268435456000.000000,225485783040.000000,6060-6060-6060-6060-6060-6060-6060-6001,"
+              "2.000000,214748364800.000000,80.000000,");
     EXPECT_NE(bytes.find(",5242880.000000,78.990000,"), std::string::npos);
 }
 
@@ -217,6 +219,8 @@ TEST_F(CacheStatisticsCsvTest, AFolderThatCannotBeMadeFailsWithTheOpenText)
 {
     CacheStatisticsModel const model(now, nullptr);
     EXPECT_FALSE(CacheStatisticsCsv(model, dir.file("none/run")).writeFiles("ID", true, err));
-    EXPECT_EQ(err, "Unable to open file \"" + dir.file("none/run") + "/ID_cache_statistics.csv\", (No such file or "
-                                                                      "directory)");
+    EXPECT_EQ(err,
+              "Unable to open file \"" + dir.file("none/run") +
+                  "/ID_cache_statistics.csv\", (No such file or "
+                  "directory)");
 }

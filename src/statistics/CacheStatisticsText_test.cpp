@@ -60,7 +60,8 @@ TEST_F(CacheStatisticsTextTest, CacheLinesShowMiBCountersInTheirUnitAndSharesAsR
     std::string const text = cacheText(false);
     EXPECT_EQ(lineStarting(text, "Total"), "Total Cache Capacity           =       800GB");
     EXPECT_EQ(lineStarting(text, "Cache Capacity Used"), "Cache Capacity Used (SSD+RAM)  =     64.50GB (  8%)");
-    EXPECT_EQ(lineStarting(text, "Cache Hits (Read"), "Cache Hits (Read Load)         =      2.19TB ( 26% of Read Data)");
+    EXPECT_EQ(lineStarting(text, "Cache Hits (Read"),
+              "Cache Hits (Read Load)         =      2.19TB ( 26% of Read Data)");
     EXPECT_EQ(text.substr(0, 29), "\n[Global Cache Statistics]\n\nT");
 }
 
@@ -103,14 +104,15 @@ TEST_F(CacheStatisticsTextTest, LunRowsShowSizeShareUseAndWindows)
     now.luns[0].info.cacheInfo.ui64MirrorAdapter = 0x2000001B32A10D00ull;
     now.luns.push_back(cachedLun(2, 64 * GiB, 0, 0, 0));
     std::string const text = lunText(false, 0);
-    EXPECT_EQ(text, "\n\n[LUN Based Cache Statistics]\n\n"
-                    "WWULN                                         Size      Cache Capacity            (Clean + Dirty)"
-                    "   Read Size Write Size\n"
-                    "6060-6060-6060-6060-6060-6060-6060-6001   64GB 50%          64.50GB 8%             (64GB + 512MB)"
-                    "  (8, 1024)KB (4, 512)KB\n"
-                    "   (Mirrored at Adapter 2000001B32A10D00)\n"
-                    "6060-6060-6060-6060-6060-6060-6060-6002   64GB 50%                0 0%                    (0 + 0)"
-                    "  (8, 1024)KB (4, 512)KB\n");
+    EXPECT_EQ(text,
+              "\n\n[LUN Based Cache Statistics]\n\n"
+              "WWULN                                         Size      Cache Capacity            (Clean + Dirty)"
+              "   Read Size Write Size\n"
+              "6060-6060-6060-6060-6060-6060-6060-6001   64GB 50%          64.50GB 8%             (64GB + 512MB)"
+              "  (8, 1024)KB (4, 512)KB\n"
+              "   (Mirrored at Adapter 2000001B32A10D00)\n"
+              "6060-6060-6060-6060-6060-6060-6060-6002   64GB 50%                0 0%                    (0 + 0)"
+              "  (8, 1024)KB (4, 512)KB\n");
 }
 
 TEST_F(CacheStatisticsTextTest, WithDeltaTheUseShowsItsChange)
@@ -183,15 +185,16 @@ TEST_F(CacheStatisticsTextTest, TheAnalysisOnce)
     counter("SSD ReadCacheOverwrites", 13878772);
     counter("SSD WriteCacheOverwrites", 11103018);
     counter("SSD ReadCacheFreed", 8327263);
-    EXPECT_EQ(analysisText(false), "\n\n[Cache Statistics Analysis]\n\n"
-                                   "\n   [Cache Read]\n"
-                                   "    New SSD Read Cache from Read     =  91363552   2.72TB\n"
-                                   "\n   [Cache Write]\n"
-                                   "    SSD Write Cache Writes           = 116581690\n"
-                                   "    SSD Read Cache Overwrites        =  13878772       11%\n"
-                                   "    SSD Write Cache Overwrites       =  11103018        9%\n"
-                                   "    New SSD Write Cache Writes       =  91599900       78%\n"
-                                   "\n    SSD Cache Freed = 8327263\n");
+    EXPECT_EQ(analysisText(false),
+              "\n\n[Cache Statistics Analysis]\n\n"
+              "\n   [Cache Read]\n"
+              "    New SSD Read Cache from Read     =  91363552   2.72TB\n"
+              "\n   [Cache Write]\n"
+              "    SSD Write Cache Writes           = 116581690\n"
+              "    SSD Read Cache Overwrites        =  13878772       11%\n"
+              "    SSD Write Cache Overwrites       =  11103018        9%\n"
+              "    New SSD Write Cache Writes       =  91599900       78%\n"
+              "\n    SSD Cache Freed = 8327263\n");
 }
 
 TEST_F(CacheStatisticsTextTest, TheAnalysisWithDelta)
@@ -201,15 +204,16 @@ TEST_F(CacheStatisticsTextTest, TheAnalysisWithDelta)
     counter("SSD ReadCacheOverwrites", 13879299, 13878772);
     counter("SSD WriteCacheOverwrites", 11103439, 11103018);
     counter("SSD ReadCacheFreed", 8327579, 8327263);
-    EXPECT_EQ(analysisText(true), "\n\n[Cache Statistics Analysis]\n\n"
-                                  "\n   [Cache Read]\n"
-                                  "    New SSD Read Cache from Read     =    91367018     (3466) 2.72TB(108MB)\n"
-                                  "\n   [Cache Write]\n"
-                                  "    SSD Write Cache Writes           =   116586114     (4424)\n"
-                                  "    SSD Read Cache Overwrites        =    13879299      (527)     11%   (0%)\n"
-                                  "    SSD Write Cache Overwrites       =    11103439      (421)      9%   (0%)\n"
-                                  "    New SSD Write Cache Writes       =    91603376     (3476)     78%   (0%)\n"
-                                  "\n    SSD Cache Freed = 8327579 (316)\n");
+    EXPECT_EQ(analysisText(true),
+              "\n\n[Cache Statistics Analysis]\n\n"
+              "\n   [Cache Read]\n"
+              "    New SSD Read Cache from Read     =    91367018     (3466) 2.72TB(108MB)\n"
+              "\n   [Cache Write]\n"
+              "    SSD Write Cache Writes           =   116586114     (4424)\n"
+              "    SSD Read Cache Overwrites        =    13879299      (527)     11%   (0%)\n"
+              "    SSD Write Cache Overwrites       =    11103439      (421)      9%   (0%)\n"
+              "    New SSD Write Cache Writes       =    91603376     (3476)     78%   (0%)\n"
+              "\n    SSD Cache Freed = 8327579 (316)\n");
 }
 
 TEST_F(CacheStatisticsTextTest, BypassWarningsStartAboveFivePercent)
@@ -256,10 +260,12 @@ TEST_F(CacheStatisticsTextTest, UpTimeAndStreams)
     std::string const once = CacheStatisticsText(model).displayGlobalIoText(false);
     EXPECT_EQ(lineStarting(once, "    Korvane"), "    Korvane Adapter Up Time: 1:12:11");
     EXPECT_NE(once.find("1:12:11\n\n\n\n[Host IO Statistics]"), std::string::npos);
-    EXPECT_EQ(lineStarting(once, "Host Reads:       451"),
-              "Host Reads:       451165072,  Min:     0.5KB,  Max:  1024.0KB,  Avg:    19.5KB,  IOPS:  1712,  KBs: 33283");
-    EXPECT_EQ(lineStarting(once, "Write Flush:"),
-              "Write Flush:              0,  Min:     0.0KB,  Max:     0.0KB,  Avg:     0.0KB,  IOPS:     0,  KBs: 0    ");
+    EXPECT_EQ(
+        lineStarting(once, "Host Reads:       451"),
+        "Host Reads:       451165072,  Min:     0.5KB,  Max:  1024.0KB,  Avg:    19.5KB,  IOPS:  1712,  KBs: 33283");
+    EXPECT_EQ(
+        lineStarting(once, "Write Flush:"),
+        "Write Flush:              0,  Min:     0.0KB,  Max:     0.0KB,  Avg:     0.0KB,  IOPS:     0,  KBs: 0    ");
     std::string const delta = CacheStatisticsText(model).displayGlobalIoText(true);
     EXPECT_NE(delta.find("    Korvane Adapter Up Time: 1:12:11 (+0:0:10)\n\n\n[Host IO Statistics]"),
               std::string::npos);

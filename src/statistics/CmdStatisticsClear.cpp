@@ -1,8 +1,9 @@
 #include "statistics/CmdStatisticsClear.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
 
 namespace {
 
@@ -25,5 +26,12 @@ CmdStatisticsClear::CmdStatisticsClear()
 
 int CmdStatisticsClear::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    if (int const rc = addressed.adapter->clearAdapterStatistics())
+        return rc;
+    CommandReport report;
+    report.text = "Cache statistics have been reset to zero.\n";
+    return finishCommand(*this, addressed.adapter, report, err);
 }

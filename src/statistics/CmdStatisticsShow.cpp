@@ -1,8 +1,12 @@
 #include "statistics/CmdStatisticsShow.h"
 
+#include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "records/KCacheStatistics.h"
+#include "records/KHostPcieInfo.h"
+#include "statistics/StatisticsLoop.h"
 
 namespace {
 
@@ -11,6 +15,19 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     keywordRow(ModifierId::MODIFIER_INTERVAL, TokenModifier::OPTIONAL, TokenModifier::VALUE_REQUIRED),
     endRow(),
 };
+
+// Both records of the adapter; the first code that is not 0 is returned.
+int readRecords(HIsaAdapter& adapter, KCacheStatistics& cache, KHostPcieInfo& host)
+{
+    if (int const rc = adapter.getAdapterStatistics(cache))
+        return rc;
+    return adapter.getStatistics(host);
+}
+
+std::string viewText(KCacheStatistics const& cache, KHostPcieInfo const& host)
+{
+    return host.displayText2() + "\n" + cache.displayText();
+}
 
 } // namespace
 
@@ -30,5 +47,31 @@ CmdStatisticsShow::CmdStatisticsShow()
 
 int CmdStatisticsShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter addressed;
+    if (int const rc = findAddressedAdapter(*this, addressed, err))
+        return rc;
+    unsigned interval = 0;
+    if (int const rc = StatisticsLoop::readInterval(*this, interval, err))
+        return rc;
+    HIsaAdapter& adapter = *addressed.adapter;
+    KCacheStatistics cache;
+    KHostPcieInfo host;
+    return StatisticsLoop(*this, adapter, interval)
+        .run(
+            [&](CommandReport& report, std::string&) {
+                if (int const rc = readRecords(adapter, cache, host))
+                    return rc;
+                // Only the single view passes the record on.
+                report.text = viewText(cache, host);
+                report.data = &cache;
+                report.size = KCacheStatistics::IMAGE_SIZE;
+                return 0;
+            },
+            [&](StatisticsLoop::Cycle& cycle) {
+                if (int const rc = readRecords(adapter, cache, host))
+                    return rc;
+                cycle.out.line(viewText(cache, host) + cycle.clockLine());
+                return StatisticsLoop::kNextCycle;
+            },
+            err);
 }

@@ -913,6 +913,9 @@ int clearLunStatistics(San& san, u64 adapter, const std::string& wwuln, long lon
         Lun* lun = findLunByWwuln(san, wwuln);
         if (!lun)
             return code::ObjectNotFound;
+        // A LUN that is gone has no counters to clear.
+        if (!lun->online)
+            return code::LunGone;
         lun->statsClearedAt = now;
         return code::Ok;
     });

@@ -429,3 +429,12 @@ TEST_F(RulesTest, RestoringADriveConfigurationAdoptsTheOwnersDrives)
     EXPECT_EQ(rules::restoreDriveConfig(san, kDev1, kOld, kNow), code::ObjectNotFound) << "nothing left to adopt";
     EXPECT_EQ(rules::restoreDriveConfig(san, kOffline, kOld, kNow), code::AdapterNotResponding);
 }
+
+TEST_F(RulesTest, ClearingLunStatisticsRestartsThemButNotForALunThatIsGone)
+{
+    const std::string name = "600A0B80002A1C3D0000000052B2A002";
+    EXPECT_EQ(rules::clearLunStatistics(san, kDev0, name, kNow + 5), code::Ok);
+    EXPECT_EQ(findLunByWwuln(san, name)->statsClearedAt, kNow + 5);
+    EXPECT_EQ(rules::clearLunStatistics(san, kDev0, "600A0B80002A1C3D0000000052B2A003", kNow + 6), code::LunGone);
+    EXPECT_EQ(rules::clearLunStatistics(san, kDev0, "00", kNow + 6), code::ObjectNotFound);
+}
