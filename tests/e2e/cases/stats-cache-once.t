@@ -10,7 +10,7 @@ the time stamp.
   $ LD_PRELOAD=$ZEK_SHIM hostcli -zek show cache_statistics -zek=1000000000000A00
   [ Device 0 on local host ]
   
-  [15:18:24 11/25/2026]
+  [11:06:40 11/18/2026]
   
       Korvane Adapter Up Time: 1:13:41
   
