@@ -6,7 +6,10 @@
 #include "commands/KeywordHelp.h"
 #include "records/KCacheStatistics.h"
 #include "records/KHostPcieInfo.h"
+#include "records/RecordImage.h"
 #include "statistics/StatisticsLoop.h"
+
+#include <vector>
 
 namespace {
 
@@ -56,15 +59,18 @@ int CmdStatisticsShow::execCommand(std::string& err)
     HIsaAdapter& adapter = *addressed.adapter;
     KCacheStatistics cache;
     KHostPcieInfo host;
+    std::vector<unsigned char> image;
     return StatisticsLoop(*this, adapter, interval)
         .run(
             [&](CommandReport& report, std::string&) {
                 if (int const rc = readRecords(adapter, cache, host))
                     return rc;
-                // Only the single view passes the record on.
+                // Only the single view passes the record on, as the same bytes in
+                // every process.
                 report.text = viewText(cache, host);
-                report.data = &cache;
-                report.size = KCacheStatistics::IMAGE_SIZE;
+                image = recordImage(cache);
+                report.data = image.data();
+                report.size = image.size();
                 return 0;
             },
             [&](StatisticsLoop::Cycle& cycle) {

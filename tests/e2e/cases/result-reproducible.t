@@ -16,13 +16,14 @@ A single record: the first 8 bytes of its image, its code address, are
 zero.
 
   $ for command in 'show memory -zek=0' 'show health -zek=0' 'show sfp -zek=0 -port=1' 'show nvdimm -zek=0' \
-  >     'show cluster' 'list cluster'; do same 40 $command; done
+  >     'show cluster' 'list cluster' 'show statistics -zek=0'; do same 40 $command; done
   show memory -zek=0: 00 00 00 00 00 00 00 00
   show health -zek=0: 00 00 00 00 00 00 00 00
   show sfp -zek=0 -port=1: 00 00 00 00 00 00 00 00
   show nvdimm -zek=0: 00 00 00 00 00 00 00 00
   show cluster: 00 00 00 00 00 00 00 00
   list cluster: 00 00 00 00 00 00 00 00
+  show statistics -zek=0: 00 00 00 00 00 00 00 00
 
 A counted block: 8 bytes of header (its size, then the count of records),
 then each record after a word with its size. The first record's image
