@@ -87,7 +87,8 @@ std::string adapters(const San& san, long long now)
         std::string foreignText = foreign ? ", " + std::to_string(foreign) + " of another adapter" : "";
         text += "      ports: " + ports + "; drives: " + std::to_string(a.drives.size()) + " (" +
             std::to_string(configured) + " in pool" + foreignText + "); cache pool " + sizeText(a.cachePoolBytes) +
-            "; log " + std::to_string(a.log.size()) + " records" + (a.fixedStatistics ? "; statistics pinned" : "") + "\n";
+            "; log " + std::to_string(a.log.size()) + " records" + (a.fixedStatistics ? "; statistics pinned" : "") +
+            "\n";
     }
     return text;
 }

@@ -51,9 +51,14 @@ u32 driveLunState(const Drive& d)
 const Drive* driveForId(const Adapter& a, const KUniqueID& id)
 {
     std::string wanted = nameInside(id);
+    return driveWithName(a, reinterpret_cast<const unsigned char*>(wanted.data()), wanted.size());
+}
+
+const Drive* driveWithName(const Adapter& a, const unsigned char* name, size_t length)
+{
     for (const Drive& d : a.drives) {
         std::vector<unsigned char> bytes = driveNameBytes(d);
-        if (wanted.size() == bytes.size() && std::memcmp(wanted.data(), bytes.data(), bytes.size()) == 0)
+        if (length == bytes.size() && std::memcmp(name, bytes.data(), length) == 0)
             return &d;
     }
     return nullptr;

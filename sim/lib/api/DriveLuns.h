@@ -24,6 +24,8 @@ inline constexpr u32 kFirstDriveLun = 256;
 // says: the command line builds binary identifiers from a drive's LUN even
 // where the drive's name is text. Null when none.
 const Drive* driveForId(const Adapter& a, const KUniqueID& id);
+// The drive whose name bytes are these; null when none.
+const Drive* driveWithName(const Adapter& a, const unsigned char* name, size_t length);
 // The drive an SSD identifier (text) names: its serial number, or its name as
 // it is shown, in either case and with or without separators.
 const Drive* driveForSsdId(const Adapter& a, const KUniqueID& id);

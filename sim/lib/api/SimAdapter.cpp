@@ -756,10 +756,22 @@ e_MHBA_RETURN SimAdapter::clearLunStatistics(const uint8_t* wwuln, uint32_t wwul
         return asReturn(code::StateFileError);
     const Lun* lun = wwulnIndex_.find(*san, wwuln, wwulnLength);
     if (!lun)
-        return MHBA_E_OBJECT_NOT_FOUND;
+        return clearDriveLunStatistics(wwuln, wwulnLength);
     std::string name = lun->wwuln;
     return asReturn(apply("clearLunStatistics",
                           [&](San& s, long long now) { return rules::clearLunStatistics(s, id_, name, now); }));
+}
+
+// An SSD of the adapter is also one of its LUNs. The simulator keeps no
+// counters for it, so a clear only needs the drive to be there and answer.
+e_MHBA_RETURN SimAdapter::clearDriveLunStatistics(const uint8_t* wwuln, uint32_t wwulnLength)
+{
+    return asReturn(withAdapter("clearLunStatistics", [&](const San&, const Adapter& a) {
+        const Drive* d = driveWithName(a, wwuln, wwulnLength);
+        if (!d)
+            return code::ObjectNotFound;
+        return d->online ? code::Ok : code::LunGone;
+    }));
 }
 
 e_MHBA_RETURN SimAdapter::enableCache(const PLunID& lun, int mode, int profile, uint32_t maxCache, uint32_t minRead,

@@ -149,6 +149,7 @@ public:
     // Runs `read` on the SAN and this adapter when the adapter answers.
     using Reader = std::function<int(const San&, const Adapter&)>;
     int withAdapter(const char* operation, const Reader& read, MHbaReturnBuffer* firstError = nullptr);
+    e_MHBA_RETURN clearDriveLunStatistics(const uint8_t* wwuln, uint32_t wwulnLength);
 
 private:
     using Rule = std::function<int(San&, long long)>;

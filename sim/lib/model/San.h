@@ -3,8 +3,8 @@
 // files are all this value written as JSON (see Scenario.h).
 #pragma once
 
-#include "model/States.h"
 #include "model/PinnedStatistics.h"
+#include "model/States.h"
 
 #include <cstdint>
 #include <map>

@@ -12,6 +12,7 @@ controller LUN has no statistics.
       LUN 0  on Target: 5006-0168-3A00-0001 -- LUN statistics cleared OK
       LUN 1  on Target: 5006-0168-3A00-0001 -- LUN statistics cleared OK
       LUN 0  on Target: iqn.2026-11.example.vault:disk.01 -- LUN statistics cleared OK
+      LUN 256  on Target: 2100-0010-0000-0A00 -- LUN statistics cleared OK
   
   
   
