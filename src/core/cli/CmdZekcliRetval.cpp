@@ -15,8 +15,10 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
     endRow(),
 };
 
+} // namespace
+
 // What the command line's own codes mean, in words a script author can use.
-char const* ownReturnValueText(long code)
+char const* zekcliReturnValueText(long code)
 {
     switch (code) {
     case ZEKCLI_OK:
@@ -36,8 +38,6 @@ char const* ownReturnValueText(long code)
         return nullptr;
     }
 }
-
-} // namespace
 
 CmdZekcliRetval::CmdZekcliRetval()
 {
@@ -64,7 +64,7 @@ int CmdZekcliRetval::execCommand(std::string& err)
     if (rv->isDefault)
         return ZEKCLI_OK;
     long const code = strtol(rv->value.c_str(), nullptr, 10);
-    if (char const* const text = ownReturnValueText(code)) {
+    if (char const* const text = zekcliReturnValueText(code)) {
         err = text;
         return static_cast<int>(code);
     }
