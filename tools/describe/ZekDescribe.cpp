@@ -65,11 +65,11 @@ std::string command(TokenCmd const& cmd)
 {
     return "    {" + field("action", CmdAction::table().textFromVal(cmd.action)) + ",\n     " +
         field("item", CmdItem::table().textFromVal(cmd.item)) + ",\n     " +
-        "\"action_code\": " + std::to_string(cmd.action) + ", \"item_code\": " + std::to_string(cmd.item) +
-        ",\n     " + field("title", cmd.helpTitle) + ",\n     " + field("description", cmd.helpDescription) +
-        ",\n     " + field("syntax", cmd.helpSyntax) + ",\n     " + field("modifiers", cmd.helpModifiers) +
-        ",\n     " + field("notes", cmd.helpNotes) + ",\n     " + field("examples", cmd.helpExamples) +
-        ",\n     " + field("result", cmd.helpResultFile) + ",\n     \"keywords\": " + keywords(cmd) + "}";
+        "\"action_code\": " + std::to_string(cmd.action) + ", \"item_code\": " + std::to_string(cmd.item) + ",\n     " +
+        field("title", cmd.helpTitle) + ",\n     " + field("description", cmd.helpDescription) + ",\n     " +
+        field("syntax", cmd.helpSyntax) + ",\n     " + field("modifiers", cmd.helpModifiers) + ",\n     " +
+        field("notes", cmd.helpNotes) + ",\n     " + field("examples", cmd.helpExamples) + ",\n     " +
+        field("result", cmd.helpResultFile) + ",\n     \"keywords\": " + keywords(cmd) + "}";
 }
 
 std::string vocabulary(std::vector<std::string> const& words)
@@ -105,9 +105,10 @@ int main()
     parser.initParsingTree();
     TokenRoot const& root = parser.root;
     std::string out = "{\n  " + field("common_help", root.commonModifierHelp()) + ",\n  " +
-        field("result_layout", root.commonResultHelp()) + ",\n  \"actions\": " +
-        vocabulary(CmdAction::table().texts()) + ",\n  \"items\": " + vocabulary(CmdItem::table().texts()) +
-        ",\n  \"return_codes\": " + returnCodes() + ",\n  \"common_keywords\": " + keywords(root.commonCommand) + ",\n  \"commands\": [\n";
+        field("result_layout", root.commonResultHelp()) +
+        ",\n  \"actions\": " + vocabulary(CmdAction::table().texts()) +
+        ",\n  \"items\": " + vocabulary(CmdItem::table().texts()) + ",\n  \"return_codes\": " + returnCodes() +
+        ",\n  \"common_keywords\": " + keywords(root.commonCommand) + ",\n  \"commands\": [\n";
     char const* separator = "";
     for (Token const* child : root.children) {
         if (child->tokenType != Token::TOKEN_TYPE_CMD)
