@@ -13,10 +13,17 @@ struct ItemRecord {
     char const* record;
 };
 constexpr ItemRecord kItemRecords[] = {
-    {"target", "KTargetInfo"},       {"health", "KAdapterHealthInfo"}, {"device", "KDeviceInfo"},
-    {"cluster", "KClusterInfo"},     {"initiator", "KInitiatorInfo"},  {"lun", "PLunID"},
-    {"host", "KHostInfo"},           {"log", "KLogEntry"},             {"range", "KLogicalBlockRange"},
-    {"version", "KLibraryVersionInfo"}, {"sfp", "KSfpInfo"},
+    {"target", "KTargetInfo"},
+    {"health", "KAdapterHealthInfo"},
+    {"device", "KDeviceInfo"},
+    {"cluster", "KClusterInfo"},
+    {"initiator", "KInitiatorInfo"},
+    {"lun", "PLunID"},
+    {"host", "KHostInfo"},
+    {"log", "KLogEntry"},
+    {"range", "KLogicalBlockRange"},
+    {"version", "KLibraryVersionInfo"},
+    {"sfp", "KSfpInfo"},
 };
 
 constexpr uint32_t kCountedHeaderSize = 8;

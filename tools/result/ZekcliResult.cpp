@@ -48,8 +48,8 @@ std::string statusText(int32_t status)
 {
     if (char const* const text = zekcliReturnValueText(status))
         return text;
-    return "management library code " + std::to_string(status) + " (\"hostcli -zek retval cli -rv=" +
-        std::to_string(status) + "\" explains it)";
+    return "management library code " + std::to_string(status) +
+        " (\"hostcli -zek retval cli -rv=" + std::to_string(status) + "\" explains it)";
 }
 
 DecodedValue recordValue(ResultRecord const& record)
@@ -207,5 +207,5 @@ int main(int argc, char** argv)
         : format == Format::Csv                    ? asCsv(records)
                                                    : asText(records);
     return std::fwrite(out.data(), 1, out.size(), stdout) == out.size() && std::fflush(stdout) == 0 ? kDecoded
-                                                                                                     : kUnreadable;
+                                                                                                    : kUnreadable;
 }
