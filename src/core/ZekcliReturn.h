@@ -14,3 +14,8 @@ enum ZEKCLI_RETURN : int {
     ZEKCLI_EXIT = 58,
     ZEKCLI_TIMEOUT = 59,
 };
+
+// The words for one of the command line's own return codes, or null for a
+// code that is not its own. The manual and the result-file decoder use them
+// too.
+char const* zekcliReturnValueText(long code);

@@ -11,7 +11,7 @@
 #include "core/ModifierId.h"
 #include "core/Parser.h"
 #include "core/TokenRoot.h"
-#include "core/cli/CmdZekcliRetval.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 

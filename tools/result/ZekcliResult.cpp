@@ -15,7 +15,7 @@
 #include "common/JsonText.h"
 #include "core/CmdAction.h"
 #include "core/CmdItem.h"
-#include "core/cli/CmdZekcliRetval.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
