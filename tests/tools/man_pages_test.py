@@ -36,7 +36,7 @@ def render(source):
 class ManPages(unittest.TestCase):
     def test_every_command_has_its_page(self):
         pages = {f[: -len(".1.gz")] for f in os.listdir(MAN_DIR) if f.endswith(".1.gz")}
-        wanted = {page_name(c) for c in TABLE["commands"]} | {"zekcli", "zekcli-result"}
+        wanted = {page_name(c) for c in TABLE["commands"]} | {"zekcli", "zekcli-result", "hostcli", "hbasim"}
         self.assertEqual(set(), wanted - pages, "commands without a page")
         self.assertEqual(set(), pages - wanted, "pages without a command")
         self.assertGreater(len(TABLE["commands"]), 80)
@@ -67,7 +67,13 @@ class ManPages(unittest.TestCase):
         sources = {}
         for name in names:
             with gzip.open(os.path.join(MAN_DIR, name), "rb") as f:
-                sources[name] = f.read()
+                source = f.read()
+            # A page that points to another is read by man, not groff.
+            if source.startswith(b".so man1/"):
+                target = source[len(b".so man1/"):].strip().decode() + ".gz"
+                self.assertTrue(os.path.exists(os.path.join(MAN_DIR, target)), name)
+                continue
+            sources[name] = source
         if render(b"".join(sources.values())):
             for name in names:
                 self.assertEqual(b"", render(sources[name]), name)

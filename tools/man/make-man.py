@@ -3,7 +3,7 @@
 
     make-man.py COMMANDS.json OUTDIR
 
-zekcli.1 gives the overview, the keywords common to every command, exit
+zekcli.1 (and hostcli.1, which points to it) gives the overview, the keywords common to every command, exit
 status, files, environment and examples; zekcli-<action>-<item>.1 gives one
 command, with the same help texts that "-help" and "help cli -genhelpdoc"
 show. Pages are written gzip-compressed with no time stamp, as Debian
@@ -144,6 +144,17 @@ def overview_page(table):
     return text
 
 
+def usage_page(name, usage):
+    """A program's own usage text as its page (the simulator tool's)."""
+    lines = usage.strip("\n").split("\n")
+    summary = lines[2].strip().rstrip(".") if len(lines) > 2 else name
+    text = header(name, summary[0].lower() + summary[1:] if summary else name)
+    text += section("SYNOPSIS", verbatim(lines[0].replace("Usage: ", "", 1)))
+    text += section("DESCRIPTION", verbatim("\n".join(lines[1:])))
+    text += section("SEE ALSO", ".BR zekcli (1)\n")
+    return text
+
+
 def write_page(folder, name, text):
     path = os.path.join(folder, name + ".1.gz")
     with open(path, "wb") as raw:
@@ -152,8 +163,8 @@ def write_page(folder, name, text):
 
 
 def main(argv):
-    if len(argv) not in (3, 4):
-        sys.stderr.write("usage: make-man.py COMMANDS.json OUTDIR [EXTRA_PAGE.1]\n")
+    if len(argv) < 3:
+        sys.stderr.write("usage: make-man.py COMMANDS.json OUTDIR [PAGE.1 | NAME=USAGE_FILE]...\n")
         return 2
     with open(argv[1]) as f:
         table = json.load(f)
@@ -165,9 +176,16 @@ def main(argv):
     write_page(folder, "zekcli", overview_page(table))
     for cmd in table["commands"]:
         write_page(folder, page_name(cmd), command_page(cmd, table))
-    if len(argv) == 4:
-        with open(argv[3]) as f:
-            write_page(folder, os.path.basename(argv[3])[:-2], f.read())
+    # hostcli is the program that runs zekcli: its page is zekcli's.
+    write_page(folder, "hostcli", ".so man1/zekcli.1\n")
+    for extra in argv[3:]:
+        if "=" in extra:
+            name, path = extra.split("=", 1)
+            with open(path) as f:
+                write_page(folder, name, usage_page(name, f.read()))
+        else:
+            with open(extra) as f:
+                write_page(folder, os.path.basename(extra)[:-2], f.read())
     return 0
 
 
