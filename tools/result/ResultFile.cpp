@@ -25,15 +25,16 @@ std::string at(size_t offset)
 bool parseRecord(std::vector<unsigned char> const& bytes, size_t start, ResultRecord& record, size_t& next,
                  std::string& err)
 {
+    // A foreign file is told by its first word, however short it is.
     size_t const left = bytes.size() - start;
+    if (left >= kWord && wordAt(bytes, start) != kAnnouncedHeaderSize) {
+        err = "not a result record" + at(start) + ": header size " + std::to_string(wordAt(bytes, start)) +
+            ", expected " + std::to_string(kAnnouncedHeaderSize);
+        return false;
+    }
     if (left < kFixedPart + kWord) {
         err = "record cut short" + at(start) + ": " + std::to_string(left) + " bytes left, a record has at least " +
             std::to_string(kFixedPart + kWord);
-        return false;
-    }
-    if (wordAt(bytes, start) != kAnnouncedHeaderSize) {
-        err = "not a result record" + at(start) + ": header size " + std::to_string(wordAt(bytes, start)) +
-            ", expected " + std::to_string(kAnnouncedHeaderSize);
         return false;
     }
     record.offset = start;
