@@ -58,12 +58,14 @@ struct Damage {
 TEST(ResultFile, DamagedFilesAreRefusedWithTheOffset)
 {
     std::vector<unsigned char> const good = record(31, 25, 0, {9, 9, 9, 9});
+    ASSERT_EQ(48u, good.size());
     std::vector<unsigned char> badHeader = good;
-    badHeader[0] = 33;
+    badHeader.at(0) = 33;
     std::vector<unsigned char> hugeSection = good;
-    hugeSection[39] = 0x7f;
+    hugeSection.at(39) = 0x7f;
+    // The terminator is the last word, 44 to 47.
     std::vector<unsigned char> noTerminator = good;
-    noTerminator.back() = 1;
+    noTerminator.at(44) = 1;
     std::vector<unsigned char> trailing = good;
     trailing.push_back(0);
     Damage const cases[] = {
