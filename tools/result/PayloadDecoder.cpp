@@ -14,16 +14,22 @@ struct ItemRecord {
 };
 constexpr ItemRecord kItemRecords[] = {
     {"target", "KTargetInfo"},
+    {"target", "PTargetID"},
     {"health", "KAdapterHealthInfo"},
     {"device", "KDeviceInfo"},
+    {"device", "KDeviceID"},
     {"cluster", "KClusterInfo"},
     {"initiator", "KInitiatorInfo"},
+    {"initiator", "PInitiatorID"},
     {"lun", "PLunID"},
+    {"drive", "KDriveID"},
+    {"pool", "KDrivePoolID"},
     {"host", "KHostInfo"},
     {"log", "KLogEntry"},
     {"range", "KLogicalBlockRange"},
     {"version", "KLibraryVersionInfo"},
     {"sfp", "KSfpInfo"},
+    {"fc", "KFcInfo"},
 };
 
 constexpr uint32_t kCountedHeaderSize = 8;

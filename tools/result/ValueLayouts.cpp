@@ -85,11 +85,15 @@ std::vector<RecordLayout const*> const& valueLayouts()
     static RecordLayout const target = makeLayout<PTargetID>("PTargetID", &decodeIdentifier<PTargetID>);
     static RecordLayout const initiator = makeLayout<PInitiatorID>("PInitiatorID", &decodeIdentifier<PInitiatorID>);
     static RecordLayout const device = makeLayout<KDeviceID>("KDeviceID", &decodeIdentifier<KDeviceID>);
+    static RecordLayout const drive = makeLayout<KDriveID>("KDriveID", &decodeIdentifier<KDriveID>);
+    static RecordLayout const pool = makeLayout<KDrivePoolID>("KDrivePoolID", &decodeIdentifier<KDrivePoolID>);
     static std::vector<RecordLayout const*> const layouts{
         &lun,
         &target,
         &initiator,
         &device,
+        &drive,
+        &pool,
         &KnownLayout<PTime>::layout(),
         &KnownLayout<PIpAddress>::layout(),
         &KnownLayout<PElapsedTime>::layout(),
