@@ -272,7 +272,10 @@ bool TokenCmd::outScript(FILE* stream, std::string const& text, std::string& err
         return true;
     if (!stream)
         return outDisplay(text, err);
-    fwrite(text.data(), 1, text.size(), stream);
+    if (fwrite(text.data(), 1, text.size(), stream) != text.size()) {
+        err = "The script could not be written";
+        return false;
+    }
     return true;
 }
 

@@ -1,5 +1,8 @@
 #include "commands/adapter/CmdAdapterSet.h"
 
+#include "scripting/ScriptSections.h"
+#include <cstring>
+
 #include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/CommandPattern.h"
@@ -53,4 +56,16 @@ int CmdAdapterSet::execCommand(std::string& err)
             report.text += ", but 'restart adapter' is required for changes to take effect";
     }
     return finishCommand(*this, target.adapter, report, err);
+}
+
+int CmdAdapterSet::saveScript(HIsaAdapter*, FILE* file, std::string const&, std::string const&,
+                              KIsaAdapterInfo const& info, std::string& err)
+{
+    std::string const name(info.symbolicName, strnlen(info.symbolicName, sizeof info.symbolicName));
+    if (name.empty())
+        return 0;
+    // The name goes back through the words of "set fc", which is how an
+    // adapter's name has always been written in these scripts.
+    std::string const line = scriptCommandWords(CmdAction::ACTION_SET, CmdItem::ITEM_FC) + " -name=\"" + name + "\"\n";
+    return outScript(file, line, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }

@@ -1,8 +1,10 @@
 #include "commands/adapter/CmdSystemCaptureShow.h"
 
+#include "api/HbaMgmtInterfaces.h"
 #include "commands/CommandDeclaration.h"
+#include "commands/CommandPattern.h"
 #include "commands/KeywordHelp.h"
-#include "commands/NotAvailable.h"
+#include "core/ZekcliReturn.h"
 
 namespace {
 
@@ -27,7 +29,14 @@ CmdSystemCaptureShow::CmdSystemCaptureShow()
     helpExamples = ugCommandPrompt() + "-zek=0";
 }
 
+// No banner: the capture is a support dump that is read as one text.
 int CmdSystemCaptureShow::execCommand(std::string& err)
 {
-    return commandNotAvailableYet(*this, err);
+    AddressedAdapter target;
+    if (int const rc = findAddressedAdapter(*this, target, err))
+        return rc;
+    std::string capture;
+    if (int const rc = target.adapter->getSystemCapture(capture))
+        return rc;
+    return outDisplay(capture, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }

@@ -1,5 +1,12 @@
 #include "commands/cache/CmdCacheEnable.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "core/ZekcliReturn.h"
+#include "records/KLunInfo.h"
+#include "records/PUniqueID.h"
+#include "scripting/ScriptSections.h"
+#include <vector>
+
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
 
@@ -45,4 +52,37 @@ CmdCacheEnable::CmdCacheEnable()
 int CmdCacheEnable::execCommand(std::string& err)
 {
     return runCacheCommand(false, err);
+}
+
+namespace {
+
+std::string cacheEnableLine(HLun& lun, std::string const& tail)
+{
+    KLunInfo const& info = *lun.getLunInfo();
+    std::string line = scriptCommandWords(CmdAction::ACTION_ENABLE, CmdItem::ITEM_CACHE);
+    line += info.cacheInfo.eCacheMode == KLunCacheInfo::CACHE_MODE_READ_WRITE_THROUGH ? " -mode=read_write_through"
+                                                                                      : " -mode=read_write_back";
+    // Written bare on purpose: the peer adapter is not known to the script.
+    if (info.eMirrorState() == KLunInfo::MIRROR_STATE_PRIMARY)
+        line += " -mirror=";
+    PLunID const& id = *lun.getLunId();
+    return line + " -lun_number=" + std::to_string(id.lunNumber()) + scriptTargetText(id, "-is_target") + " " + tail +
+        "\n";
+}
+
+} // namespace
+
+int CmdCacheEnable::saveScript(HIsaAdapter* adapter, FILE* file, std::string const& tail, std::string const&,
+                               std::string& err)
+{
+    std::vector<HLun*> luns;
+    if (int const rc = readScriptLuns(*adapter, luns))
+        return rc;
+    std::string lines;
+    for (HLun* lun : luns) {
+        KLunInfo const& info = *lun->getLunInfo();
+        if (info.isSanLun() && info.isLunCached() && info.eCacheState() == KLunInfo::CACHE_STATE_CACHED_LOCAL)
+            lines += cacheEnableLine(*lun, tail);
+    }
+    return outScript(file, lines, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }

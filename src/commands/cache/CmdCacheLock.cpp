@@ -1,5 +1,12 @@
 #include "commands/cache/CmdCacheLock.h"
 
+#include "core/ZekcliReturn.h"
+#include "records/KLunInfo.h"
+#include "records/PUniqueID.h"
+#include "scripting/ScriptSections.h"
+#include <algorithm>
+#include <vector>
+
 #include <cstdint>
 #include <string>
 
@@ -44,4 +51,38 @@ int CmdCacheLock::execCommand(std::string& err)
                                  "Successfully locked cache for LBA range " + std::to_string(request.start) + " to " +
                                      std::to_string(request.size),
                                  err);
+}
+
+namespace {
+
+std::string lockLinesOf(HLun& lun)
+{
+    KLunCacheInfo const& cache = lun.getLunInfo()->cacheInfo;
+    PLunID const& id = *lun.getLunId();
+    uint32_t const count = std::min<uint32_t>(cache.ui32LockedRangeCount, KLunCacheInfo::MAX_LOCKED_RANGES);
+    std::string lines;
+    for (uint32_t index = 0; index < count; ++index)
+        lines += scriptCommandWords(CmdAction::ACTION_LOCK, CmdItem::ITEM_CACHE) +
+            scriptTargetText(id, "-iscsi_target") + " -lun_number=" + std::to_string(id.lunNumber()) +
+            " -lun_start_lba=" + std::to_string(cache.lockedRanges[index].ui64StartLba) +
+            " -lun_size_lba=" + std::to_string(cache.lockedRanges[index].ui32Size) + "\n";
+    return lines;
+}
+
+} // namespace
+
+// A LUN a peer adapter caches still has its ranges written: the lock
+// lines act on the session's default adapter, whichever that is.
+int CmdCacheLock::saveScript(HIsaAdapter* adapter, FILE* file, std::string const&, std::string const&, std::string& err)
+{
+    std::vector<HLun*> luns;
+    if (int const rc = readScriptLuns(*adapter, luns))
+        return rc;
+    std::string lines;
+    for (HLun* lun : luns) {
+        KLunInfo const& info = *lun->getLunInfo();
+        if (info.isSanLun() && info.isLunCached())
+            lines += lockLinesOf(*lun);
+    }
+    return outScript(file, lines, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }

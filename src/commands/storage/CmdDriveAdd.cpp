@@ -1,5 +1,13 @@
 #include "commands/storage/CmdDriveAdd.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "commands/storage/DrivePools.h"
+#include "core/ZekcliReturn.h"
+#include "records/KLunInfo.h"
+#include "records/PUniqueID.h"
+#include "scripting/ScriptSections.h"
+#include <vector>
+
 #include "api/HIsaAdapter.h"
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
@@ -36,4 +44,60 @@ int CmdDriveAdd::execCommand(std::string& err)
     DrivePoolChange const change{&HIsaAdapter::addDriveToPool, &HIsaAdapter::addDriveToPoolBySsdId,
                                  "Drive successfully added."};
     return changeDrivePool(*this, change, err);
+}
+
+namespace {
+
+// The drives that the adapter's LUNs present as caching drives.
+std::vector<KDriveID> cachingDrivesOf(HIsaAdapter& adapter)
+{
+    std::vector<KDriveID> drives;
+    for (HLun* lun : adapter.getLuns()->items) {
+        KLunInfo const& info = *lun->getLunInfo();
+        if (info.isLunState(KLunInfo::LUN_STATE_NON_ROTATING_MEDIUM))
+            drives.push_back(driveIdOfLun(info));
+    }
+    return drives;
+}
+
+// The last pool named "Configured": the one whose drives cache.
+HDrivePool* configuredPoolOf(HIsaAdapter& adapter)
+{
+    HDrivePool* configured = nullptr;
+    for (HDrivePool* pool : adapter.getDrivePools()->items)
+        if (pool->getDrivePoolId()->displayText() == "Configured")
+            configured = pool;
+    return configured;
+}
+
+bool poolHoldsDrive(HDrivePool& pool, KDriveID const& drive)
+{
+    HDriveIdList* const ids = pool.getDriveIds();
+    KDriveID id;
+    for (bool more = ids && ids->first(id); more; more = ids->next(id))
+        if (id == drive)
+            return true;
+    return false;
+}
+
+} // namespace
+
+int CmdDriveAdd::saveScript(HIsaAdapter* adapter, FILE* file, std::string const&, std::string const&, std::string& err)
+{
+    if (int const rc = gatherScriptLuns(*adapter))
+        return rc;
+    std::vector<KDriveID> const drives = cachingDrivesOf(*adapter);
+    if (drives.empty())
+        return 0;
+    std::string warning;
+    int const rc = gatherDrives(*adapter, warning);
+    if (rc != MHBA_S_OK && rc != MHBA_S_PARTIAL_SUCCESS)
+        return rc;
+    HDrivePool* const pool = configuredPoolOf(*adapter);
+    std::string lines;
+    for (KDriveID const& drive : drives)
+        if (pool && poolHoldsDrive(*pool, drive))
+            lines += scriptCommandWords(CmdAction::ACTION_ADD, CmdItem::ITEM_DRIVE) +
+                " -lun_wwuln=" + drive.displayText() + "\n";
+    return outScript(file, lines, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }

@@ -1,13 +1,21 @@
 // "add drive": adds an SSD drive to the storage cache pool of the adapter.
 #pragma once
 
+#include <cstdio>
 #include <string>
 
 #include "core/TokenCmd.h"
+
+class HIsaAdapter;
 
 class CmdDriveAdd : public TokenCmd {
 public:
     CmdDriveAdd();
 
     int execCommand(std::string& err) override;
+
+    // Writes this command's lines of a configuration script (to the console
+    // when `file` is null). Returns 0, the library's code, or 55.
+    int saveScript(HIsaAdapter* adapter, FILE* file, std::string const& tail, std::string const& appendName,
+                   std::string& err);
 };

@@ -1,5 +1,8 @@
 #include "commands/storage/CmdFcBasicSet.h"
 
+#include "records/KIsaAdapterInfo.h"
+#include "scripting/ScriptSections.h"
+
 #include <vector>
 
 #include "api/HbaMgmtInterfaces.h"
@@ -84,4 +87,18 @@ int CmdFcBasicSet::execCommand(std::string& err)
     report.data = image.data();
     report.size = image.size();
     return finishCommand(*this, &adapter, report, err);
+}
+
+int CmdFcBasicSet::saveScript(HIsaAdapter* adapter, FILE* file, std::string const& tail, std::string const&,
+                              KIsaAdapterInfo const& info, std::string& err)
+{
+    std::string lines;
+    for (uint32_t index = 0; index < info.fcPortCount; ++index) {
+        KFcInfo port;
+        if (int const rc = adapter->getFcInfo(index, port))
+            return rc;
+        lines += scriptCommandWords(CmdAction::ACTION_SET, CmdItem::ITEM_FC) + " -port=" + std::to_string(index + 1) +
+            " -fc_link_rate=" + PBase::fcLinkRateToText(port.programmedLinkRate) + " " + tail + "\n";
+    }
+    return outScript(file, lines, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }

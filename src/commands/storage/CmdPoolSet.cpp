@@ -1,5 +1,8 @@
 #include "commands/storage/CmdPoolSet.h"
 
+#include "api/HbaMgmtInterfaces.h"
+#include "scripting/ScriptSections.h"
+
 #include "commands/CommandDeclaration.h"
 #include "commands/KeywordHelp.h"
 #include <algorithm>
@@ -78,4 +81,14 @@ int CmdPoolSet::execCommand(std::string& err)
     CommandReport report;
     report.text = "Pool usage successfully changed.";
     return finishCommand(*this, &adapter, report, err);
+}
+
+int CmdPoolSet::saveScript(HIsaAdapter* adapter, FILE* file, std::string const&, std::string const&, std::string& err)
+{
+    KPoolInfo pool;
+    if (int const rc = adapter->getPoolInfo(pool))
+        return rc;
+    std::string const line = scriptCommandWords(CmdAction::ACTION_SET, CmdItem::ITEM_POOL) +
+        " -cache=" + PBase::longlongToMByteText(pool.configuredForCachePool) + "\n";
+    return outScript(file, line, err) ? 0 : ZEKCLI_OUTPUT_FAIL;
 }
