@@ -97,6 +97,7 @@ const std::set<std::string> kOperations = {
     "getSmartDriveInfo",
     "getStatistics",
     "getSystemCapture",
+    "scanFromAdapter",
     "getTargetsAndInitiators",
     "installFirmware",
     "invalidateCache",

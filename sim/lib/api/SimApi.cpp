@@ -314,6 +314,11 @@ e_MHBA_RETURN SimApi::scanFromAdapter(const KIsaAdapterPath& path, uint32_t* cou
     const Adapter* a = adapterForPath(*san, path);
     if (!a)
         return MHBA_E_OBJECT_NOT_FOUND;
+    // A fault on the adapter's scan stands for a rescan that the adapter
+    // could not answer; no earlier objects are kept either way.
+    if (int const injected = backend_.fault(a->id.value, "scanFromAdapter"))
+        if (!code::keepsChange(injected))
+            return asReturn(injected);
     std::string host = a->host;
     return asReturn(scanHost(host, count));
 }

@@ -154,6 +154,15 @@ is shown:
   $ wc -c < none.cfg
   0
 
+A rescan that fails is returned before the file is opened:
+
+  $ hbasim fault 2000001B32A10C00 scanFromAdapter 1000 > /dev/null
+  $ hostcli -zek save script -zek=0 -file=noscan.cfg
+  \r             \r*** General failure (esc)
+  [255]
+  $ test -e noscan.cfg || echo absent
+  absent
+
 An adapter that is not there fails the rescan:
 
   $ hostcli -zek save script -zek=7
