@@ -2,6 +2,7 @@
 // for all commands, the report of a failure, and the output channels through
 // which all text and binary results leave, so that -quiet, -show_only_error,
 // -textfile and -result behave alike for every command.
+#include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -309,6 +310,23 @@ void TokenRoot::outError(std::string const& text) const
     puts(text.c_str());
 }
 
+namespace {
+
+// A full disk shows only when the buffered bytes go out, so both the stream's
+// error flag and the close are asked.
+bool closeWrittenFile(FILE* file, std::string const& path, std::string& err)
+{
+    bool const written = !ferror(file);
+    int const writeError = errno;
+    bool const closed = fclose(file) == 0;
+    if (written && closed)
+        return true;
+    err = "Unable to write file \"" + path + "\", (" + std::strerror(written ? errno : writeError) + ")";
+    return false;
+}
+
+} // namespace
+
 bool TokenRoot::outTextFile(std::string const& text, std::string const& fileName, std::string& err) const
 {
     if (!textFileEnabled)
@@ -320,8 +338,7 @@ bool TokenRoot::outTextFile(std::string const& text, std::string const& fileName
     fseek(file, 0, SEEK_END);
     fwrite(text.data(), 1, text.size(), file);
     fputc('\n', file);
-    fclose(file);
-    return true;
+    return closeWrittenFile(file, path, err);
 }
 
 // One record per call, appended: header size 32 (the announced size leaves
@@ -359,8 +376,7 @@ bool TokenRoot::outResult(CmdAction::CMD_ACTION action, CmdItem::CMD_ITEM item, 
     }
     appendInt32(record, 0);
     fwrite(record.data(), 1, record.size(), file);
-    fclose(file);
-    return true;
+    return closeWrittenFile(file, path, err);
 }
 
 std::string adapterBannerText(KIsaAdapterPath const* path, bool agentGiven, std::string const& agentValue)

@@ -7,6 +7,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "core/FileByName.h"
 #include "core/Parser.h"
 #include "core/TokenRoot.h"
 #include "core/TreeRoot.h"
@@ -303,7 +304,8 @@ bool TokenCmd::writeHelp(std::string const& baseName, int a, int b, std::string 
     if (b != -1)
         path += "_" + std::to_string(b);
     path += ".txt";
-    FILE* file = fopen(path.c_str(), "w");
+    std::string unwritable;
+    FILE* file = openFileByName(path, "w", unwritable);
     if (!file)
         return false;
     if (!text.empty())

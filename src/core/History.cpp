@@ -5,6 +5,7 @@
 #include <string>
 #include <unistd.h>
 
+#include "core/FileByName.h"
 #include "core/Parser.h"
 
 namespace {
@@ -67,7 +68,8 @@ void Parser::updateCommandHistory(int rc, std::string const&)
         historyPath = getHomeDirectory() + "/" + "zekcli.log";
     if (!isCommandHistoryFileExists())
         return;
-    FILE* file = fopen(historyPath.c_str(), "a");
+    std::string unwritable;
+    FILE* file = openFileByName(historyPath, "a", unwritable);
     if (!file)
         return;
     std::string const line = localTimeText() + " " + commandLine + "\n";

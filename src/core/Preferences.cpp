@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include "api/HbaMgmtLoader.h"
+#include "core/FileByName.h"
 #include "core/Parser.h"
 #include "core/TokenRoot.h"
 
@@ -296,7 +297,8 @@ std::string Parser::getHomeDirectory()
 
 void Parser::init()
 {
-    FILE* file = fopen(preferencesPath().c_str(), "rb");
+    std::string unreadable;
+    FILE* file = openFileByName(preferencesPath(), "rb", unreadable);
     std::unique_ptr<char[]> buffer;
     if (file) {
         buffer = useLargeBuffer(file);
@@ -332,7 +334,8 @@ bool serialisePreferences(TokenRoot& root, std::string& out)
 
 bool fileHolds(std::string const& path, std::string const& bytes)
 {
-    FILE* file = fopen(path.c_str(), "rb");
+    std::string unreadable;
+    FILE* file = openFileByName(path, "rb", unreadable);
     if (!file)
         return false;
     std::string held(bytes.size() + 1, '\0');
@@ -365,6 +368,26 @@ void replaceFile(std::string const& path, std::string const& bytes)
         unlink(temporary.c_str());
 }
 
+// Where the preferences are written: a symlink is written through to its
+// target, as an open of the name would; a name that is neither a regular file
+// nor missing (a FIFO, a device, a dangling link) is left alone.
+bool preferencesTarget(std::string const& path, std::string& target)
+{
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0) {
+        target = path;
+        return errno == ENOENT;
+    }
+    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    char* const resolved = realpath(path.c_str(), nullptr);
+    if (!resolved)
+        return false;
+    target = resolved;
+    free(resolved);
+    return true;
+}
+
 } // namespace
 
 // Most commands leave the preferences as they found them; replacing a file
@@ -374,7 +397,8 @@ void Parser::save()
 {
     std::string const path = preferencesPath();
     std::string bytes;
-    if (!serialisePreferences(root, bytes) || fileHolds(path, bytes))
+    std::string target;
+    if (!preferencesTarget(path, target) || !serialisePreferences(root, bytes) || fileHolds(target, bytes))
         return;
-    replaceFile(path, bytes);
+    replaceFile(target, bytes);
 }

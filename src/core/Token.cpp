@@ -2,9 +2,9 @@
 // of children, value lookup among children, and two file helpers.
 #include "core/Token.h"
 
-#include <cerrno>
 #include <cstring>
 
+#include "core/FileByName.h"
 #include "core/ModifierId.h"
 #include "core/TextRules.h"
 
@@ -99,10 +99,11 @@ void Token::addChild(Token* child)
 bool Token::safe_fopen(FILE** out, std::string const& path, std::string const& mode, std::string& err)
 {
     try {
-        *out = std::fopen(path.c_str(), mode.c_str());
+        std::string reason;
+        *out = openFileByName(path, mode, reason);
         if (*out)
             return true;
-        err = "Unable to open file \"" + path + "\", (" + std::strerror(errno) + ")";
+        err = "Unable to open file \"" + path + "\", (" + reason + ")";
     } catch (...) {
         err = "fopen() exception";
     }

@@ -176,7 +176,14 @@ bool TokenCmd::createDirectoryIfItDoesNotExist(std::string& path, std::string& e
 // files read as plain lines. A last line without its end is not returned.
 bool TokenCmd::readLineFromFilePointer(FILE* file, std::string& out)
 {
+    bool tooLong = false;
+    return readLineFromFilePointer(file, out, out.max_size(), tooLong);
+}
+
+bool TokenCmd::readLineFromFilePointer(FILE* file, std::string& out, size_t limit, bool& tooLong)
+{
     out.clear();
+    tooLong = false;
     if (!file)
         return false;
     for (;;) {
@@ -187,7 +194,10 @@ bool TokenCmd::readLineFromFilePointer(FILE* file, std::string& out)
             return std::fgetc(file) != EOF;
         if (byte == '\n')
             return true;
-        out.push_back(static_cast<char>(byte));
+        if (out.size() < limit)
+            out.push_back(static_cast<char>(byte));
+        else
+            tooLong = true;
     }
 }
 

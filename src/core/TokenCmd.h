@@ -167,6 +167,9 @@ public:
     static bool isAllHexDigits(std::string const& text);
     static bool createDirectoryIfItDoesNotExist(std::string& path, std::string& err);
     static bool readLineFromFilePointer(FILE* file, std::string& out);
+    // The same, keeping at most `limit` bytes of a line; `tooLong` tells that
+    // the rest was read past and dropped.
+    static bool readLineFromFilePointer(FILE* file, std::string& out, size_t limit, bool& tooLong);
     static void removeLeadingWhitespace(std::string& text);
 
     CmdAction::CMD_ACTION action = CmdAction::ACTION_NO_ACTION;

@@ -440,6 +440,24 @@ TEST(TokenHelpers, RemoveLeadingWhitespace)
     EXPECT_EQ(text, "");
 }
 
+TEST(TokenHelpers, ReadLineKeepsAtMostItsLimitAndSaysSo)
+{
+    FILE* file = fileHolding("abcdefgh\nabc\r\nlast\n");
+    std::string line;
+    bool tooLong = false;
+    EXPECT_TRUE(TokenCmd::readLineFromFilePointer(file, line, 3, tooLong));
+    EXPECT_EQ(line, "abc");
+    EXPECT_TRUE(tooLong);
+    EXPECT_TRUE(TokenCmd::readLineFromFilePointer(file, line, 3, tooLong));
+    EXPECT_EQ(line, "abc");
+    EXPECT_FALSE(tooLong);
+    EXPECT_TRUE(TokenCmd::readLineFromFilePointer(file, line, 3, tooLong));
+    EXPECT_EQ(line, "las");
+    EXPECT_TRUE(tooLong);
+    EXPECT_FALSE(TokenCmd::readLineFromFilePointer(file, line, 3, tooLong));
+    std::fclose(file);
+}
+
 TEST(TokenHelpers, ReadLineEndsAtLineFeedOrCarriageReturn)
 {
     FILE* file = fileHolding("one\ntwo\r\nthree\rXfour\n\nlast");
@@ -512,9 +530,22 @@ TEST(TokenHelpers, SafeOpenReportsWhy)
     std::string err;
     EXPECT_FALSE(Token::safe_fopen(&file, "/nonexistent-dir/x", "r", err));
     EXPECT_EQ(err, "Unable to open file \"/nonexistent-dir/x\", (No such file or directory)");
-    EXPECT_TRUE(Token::safe_fopen(&file, "/dev/null", "r", err));
+    EXPECT_TRUE(Token::safe_fopen(&file, "/dev/null", "w", err));
     ASSERT_NE(file, nullptr);
     std::fclose(file);
+}
+
+// Nothing is read from a file whose end may never come.
+TEST(TokenHelpers, SafeOpenReadsOnlyRegularFiles)
+{
+    FILE* file = nullptr;
+    std::string err;
+    EXPECT_FALSE(Token::safe_fopen(&file, "/dev/zero", "r", err));
+    EXPECT_EQ(err, "Unable to open file \"/dev/zero\", (Not a regular file)");
+    EXPECT_FALSE(Token::safe_fopen(&file, "/", "rb", err));
+    EXPECT_EQ(err, "Unable to open file \"/\", (Is a directory)");
+    EXPECT_FALSE(Token::safe_fopen(&file, "/dev/zero", "r+", err));
+    EXPECT_EQ(file, nullptr);
 }
 
 TEST(TokenHelpers, DisplayMemoryDumpsHexAndText)

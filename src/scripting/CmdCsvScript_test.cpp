@@ -138,11 +138,11 @@ TEST_F(CsvScriptTest, MissingCsvFileFails)
     EXPECT_FALSE(std::filesystem::exists("out.cfg"));
 }
 
-TEST_F(CsvScriptTest, FolderAsCsvFileFailsWithTheReadError)
+TEST_F(CsvScriptTest, FolderAsCsvFileIsNotOpened)
 {
     std::filesystem::create_directory("folder.csv");
     EXPECT_EQ(ZEKCLI_OUTPUT_FAIL, run("script csv -csv_file=folder.csv -file=out.cfg -cmd=c"));
-    EXPECT_EQ("Unable to read file \"folder.csv\", (Is a directory)", err);
+    EXPECT_EQ("Unable to open file \"folder.csv\", (Is a directory)", err);
 }
 
 TEST_F(CsvScriptTest, ConsoleGetsTheHeaderAsDisplayedTextAndTheLinesAsTheyStand)

@@ -25,6 +25,10 @@ constexpr TokenInitializer::TOKEN_INITIALIZER rows[] = {
 // The first characters that make a line a comment.
 constexpr char kCommentStarts[] = "#!;/:";
 
+// No command comes near this; a longer line is a wrong file (or one made to
+// exhaust memory), and keeping only this much bounds what a script costs.
+constexpr size_t kLongestScriptLine = 1024 * 1024;
+
 std::string twoDigits(int value)
 {
     return (value < 10 ? "0" : "") + std::to_string(value);
@@ -131,12 +135,19 @@ int CmdScriptExecute::runLines(FILE* script, ScriptRunSwitches const& switches, 
     unsigned int lineNumber = 0;
     int failing = ZEKCLI_OK;
     std::string line;
-    while (failing == ZEKCLI_OK && readLineFromFilePointer(script, line)) {
+    bool tooLong = false;
+    while (failing == ZEKCLI_OK && readLineFromFilePointer(script, line, kLongestScriptLine, tooLong)) {
         ++lineNumber;
-        if (isSkippedLine(line))
+        if (tooLong) {
+            err = "Line " + std::to_string(lineNumber) + " is longer than " + std::to_string(kLongestScriptLine) +
+                " bytes";
+            failing = ZEKCLI_PARSE_FAIL;
+        } else if (isSkippedLine(line)) {
             continue;
-        switches.appendTo(line);
-        failing = root->execOneCommandLine(line, err, lineNumber);
+        } else {
+            switches.appendTo(line);
+            failing = root->execOneCommandLine(line, err, lineNumber);
+        }
         // The parser records no command for a line it could not read.
         if (failing == ZEKCLI_PARSE_FAIL)
             root->stats.add("******", "Parse Error", ZEKCLI_PARSE_FAIL, lineNumber);

@@ -85,7 +85,7 @@ A CSV file that is missing, or that is a folder, fails with 55 and the reason.
   ls: cannot access 'out.cfg': No such file or directory
   [2]
   $ mkdir folder.csv && hostcli -zek script csv -csv_file=folder.csv -file=out.cfg -cmd=x
-  \r             \r*** Unknown return code 55 -- Unable to read file "folder.csv", (Is a directory) (esc)
+  \r             \r*** Unknown return code 55 -- Unable to open file "folder.csv", (Is a directory) (esc)
   [55]
 
 -csv_file is required: the parser asks for it.
