@@ -185,6 +185,11 @@ bool Parser::parseModifierToken(std::string& line, ModifierId::MODIFIER_ID& id, 
         err = "Parsing error near " + line;
         return false;
     }
+    // "--zek" or "-=1": a prefix that names nothing must not fail silently.
+    if (token.empty()) {
+        err = "Could not parse modifier near " + line;
+        return false;
+    }
     // Unknown and ambiguous keywords read alike: the table's own text is
     // replaced by the place where parsing stopped.
     id = ModifierId::table().valFromPartialText(token, err);

@@ -325,6 +325,17 @@ TEST(ParserKeyword, UnknownAndAmbiguousKeywordsReadAlike)
     EXPECT_EQ(tree.err, "Could not parse modifier near " + kShowLunArrow);
 }
 
+TEST(ParserKeyword, AKeywordWithoutANameSaysWhereParsingStopped)
+{
+    Tree tree;
+    EXPECT_EQ(tree.parse("show lun --quiet"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, "Could not parse modifier near -quiet" + kShowLunArrow);
+    EXPECT_EQ(tree.parse("show lun -=1"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, "Could not parse modifier near =1" + kShowLunArrow);
+    EXPECT_EQ(tree.parse("show lun -\"\" -quiet"), ZEKCLI_PARSE_FAIL);
+    EXPECT_EQ(tree.err, "Could not parse modifier near -quiet" + kShowLunArrow);
+}
+
 TEST(ParserKeyword, KeywordNotOnTheCommand)
 {
     Tree tree;
@@ -402,13 +413,6 @@ TEST(ParserKeyword, FlagsNeedNoValue)
     Tree tree;
     ASSERT_EQ(tree.parse("version cli -name"), ZEKCLI_OK) << tree.err;
     EXPECT_FALSE(tree.keyword(tree.versionCli, ModifierId::MODIFIER_NAME)->isDefault);
-}
-
-TEST(ParserKeyword, EmptyKeywordNameIsNoKeyword)
-{
-    Tree tree;
-    EXPECT_EQ(tree.parse("show lun --quiet"), ZEKCLI_PARSE_FAIL);
-    EXPECT_EQ(tree.err, kShowLunPlain);
 }
 
 TEST(ParserKeyword, TrailingPrefixIsAParsingError)

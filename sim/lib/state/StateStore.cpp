@@ -195,10 +195,11 @@ bool writeTextFileAtomically(const std::string& path, const std::string& text, s
 {
     if (!makeParentDirectory(path, error))
         return false;
+    // The temporary name is ours, not the user's: messages name `path`.
     std::string temp = path + ".tmp." + std::to_string(::getpid());
     int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0) {
-        error = systemError("cannot create", temp);
+        error = systemError("cannot write", path);
         return false;
     }
     size_t done = 0;
@@ -207,7 +208,7 @@ bool writeTextFileAtomically(const std::string& path, const std::string& text, s
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0) {
-            error = systemError("cannot write", temp);
+            error = systemError("cannot write", path);
             ::close(fd);
             ::unlink(temp.c_str());
             return false;
@@ -216,7 +217,7 @@ bool writeTextFileAtomically(const std::string& path, const std::string& text, s
     }
     // The data must be on disk before the rename makes it the state.
     if (::fsync(fd) != 0 || ::close(fd) != 0) {
-        error = systemError("cannot write", temp);
+        error = systemError("cannot write", path);
         ::unlink(temp.c_str());
         return false;
     }

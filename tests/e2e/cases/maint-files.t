@@ -53,6 +53,7 @@ A file the adapter cannot use is refused by the library:
   \r             \r*** Invalid argument (esc)
   [255]
   $ touch blocker
-  $ hostcli -zek save fru_file -zek=0 -filepath=blocker/x | sed -E 's/\.tmp\.[0-9]+/.tmp.PID/'
-  cannot create "blocker/x.tar.gz.tmp.PID": Not a directory
+  $ hostcli -zek save fru_file -zek=0 -filepath=blocker/x
+  cannot write "blocker/x.tar.gz": Not a directory
   \r             \r*** The file could not be read or written (esc)
+  [255]
