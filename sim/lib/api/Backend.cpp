@@ -7,6 +7,7 @@
 #include "model/Scenario.h"
 #include "state/Clock.h"
 
+#include <exception>
 #include <limits>
 
 namespace sim {
@@ -87,6 +88,17 @@ const Snapshot* Backend::changeBase(long long t) const
 }
 
 int Backend::change(const std::function<int(San&, long long now)>& change, bool keepAlways)
+{
+    // Whatever a value does to the model or to its text, the caller gets a
+    // code: nothing thrown here may reach the program that loaded us.
+    try {
+        return changeOnce(change, keepAlways);
+    } catch (const std::exception&) {
+        return code::InvalidArgument;
+    }
+}
+
+int Backend::changeOnce(const std::function<int(San&, long long now)>& change, bool keepAlways)
 {
     long long t = now();
     if (demo_) {

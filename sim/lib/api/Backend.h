@@ -50,6 +50,7 @@ public:
     long long now() const;
 
 private:
+    int changeOnce(const std::function<int(San&, long long now)>& change, bool keepAlways);
     void reportFailure(const std::string& error);
 
     void takeWrittenAsView(const std::string& stamp);

@@ -627,3 +627,24 @@ TEST_F(SimApiTest, RestoringTheConfigurationOfAnOwnerThatNoDriveNamesFindsNothin
     ASSERT_EQ(dev0->getDrivesWithErrorDetails(&first), MHBA_S_OK);
     EXPECT_EQ(dev0->getDrives()->items[0]->getDriveInfo()->ownerId, kDev0);
 }
+
+// Text the state file could not hold is refused like any other bad value,
+// and nothing is thrown back to the caller.
+TEST_F(SimApiTest, TextThatIsNotUtf8IsAnInvalidArgument)
+{
+    HIsaAdapter* dev0 = adapter(0);
+    ASSERT_NE(dev0, nullptr);
+    std::string const hostile[] = {"\xff"
+                                   "ab",
+                                   "ok\xc3", "\xed\xa0\x80", "a\xfe"};
+    for (std::string const& text : hostile) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(dev0->setSymbolicName(text.data(), text.size()), MHBA_E_INVALID_ARG);
+        KWwulnLunID made;
+        EXPECT_EQ(dev0->createLun(10ull << 30, text, 1, kDev0, made), MHBA_E_INVALID_ARG);
+    }
+    std::string const fine = "caf\xc3\xa9";
+    EXPECT_EQ(dev0->setSymbolicName(fine.data(), fine.size()), MHBA_S_OK);
+    KWwulnLunID made;
+    EXPECT_EQ(dev0->createLun(10ull << 30, fine, 1, kDev0, made), MHBA_S_OK);
+}

@@ -15,6 +15,13 @@ namespace sim::rules {
 
 namespace {
 
+// Text the user gives that the state keeps: it must fit its field and be
+// UTF-8, or the state file could not hold it.
+bool isStorableText(const std::string& text, size_t longest)
+{
+    return text.size() <= longest && codec::isUtf8(text);
+}
+
 constexpr u64 MiB = 1024ull * 1024;
 constexpr u32 kPollsToFinish = 2; // a pinned clock still ends a flush or a restart
 constexpr long long kRestartSeconds = 12;
@@ -439,7 +446,7 @@ int createLun(San& san, u64 adapter, u64 sizeBytes, const std::string& name, int
     return onAdapter(san, adapter, now, [&](Adapter& a) {
         if (!hasCapability(a, "LOCAL_SSD_DATA_LUN"))
             return code::NotSupported;
-        if (sizeBytes == 0 || name.size() > 128)
+        if (sizeBytes == 0 || !isStorableText(name, 128))
             return code::InvalidArgument;
         int rc = checkLocalMirror(san, adapter, mirrorType, mirrorAdapter, now);
         if (rc != code::Ok)
@@ -482,7 +489,7 @@ int modifyLun(San& san, u64 adapter, const PathRef& path, u64 sizeBytes, const s
         return code::InvalidArgument; // LUNs only grow
     if (sizeBytes > lun->sizeBytes && sizeBytes - lun->sizeBytes > freeStorage(san, *a))
         return code::NotEnoughStorage;
-    if (name.size() > 128)
+    if (!isStorableText(name, 128))
         return code::InvalidArgument;
     if (sizeBytes)
         lun->sizeBytes = sizeBytes;
@@ -593,7 +600,7 @@ int removeDriveFromPool(San& san, u64 adapter, const std::string& drive, long lo
 int createCluster(San& san, u64 adapter, u64 primary, u64 secondary, const std::string& id, int type, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter&) {
-        if (id.empty() || id.size() > 16 || primary == secondary || primary != adapter)
+        if (id.empty() || !isStorableText(id, 16) || primary == secondary || primary != adapter)
             return code::InvalidArgument;
         Adapter* s = findAdapter(san, secondary);
         if (!s)
@@ -654,7 +661,7 @@ int removeClusterMember(San& san, u64 adapter, u64 member, const std::string& id
 int setSymbolicName(San& san, u64 adapter, const std::string& name, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
-        if (name.size() > 63)
+        if (!isStorableText(name, 63))
             return code::InvalidArgument;
         a.symbolicName = name;
         return code::Ok;
@@ -666,7 +673,7 @@ int setPassword(San& san, u64 adapter, const std::string& oldPassword, const std
     return onAdapter(san, adapter, now, [&](Adapter& a) {
         if (oldPassword != a.password)
             return code::PasswordWrong;
-        if (newPassword.empty() || newPassword.size() > 32)
+        if (newPassword.empty() || !isStorableText(newPassword, 32))
             return code::InvalidArgument;
         a.password = newPassword;
         return code::Ok;
@@ -810,7 +817,7 @@ int setPortSettings(San& san, u64 adapter, u32 port, int linkRate, int option, u
 int installFirmware(San& san, u64 adapter, const std::string& version, long long now)
 {
     return onAdapter(san, adapter, now, [&](Adapter& a) {
-        if (version.empty() || version.size() > 31)
+        if (version.empty() || !isStorableText(version, 31))
             return code::InvalidArgument;
         a.swVersion = version;
         a.needsRestart = true;
