@@ -1,6 +1,7 @@
 #include "api/SimLogView.h"
 
 #include "api/Fill.h"
+#include "core/FileByName.h"
 #include "state/StateStore.h"
 
 #include <fcntl.h>
@@ -111,7 +112,8 @@ std::string quoted(const std::string& file)
 // The saved log at `file`, opened for reading, or -1 with the reason.
 int openSavedLog(const std::string& file, unsigned& count, std::string& error)
 {
-    int const fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    // Not blocking: a FIFO would wait for a writer before fstat could refuse it.
+    int const fd = ::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) {
         error = "cannot open saved log " + quoted(file) + ": " + std::strerror(errno);
         return -1;
@@ -236,7 +238,8 @@ bool SimLogView::findByText(const std::string& text, const KLogEntry& from, KLog
 // fields are cut by it, else they are the record's own text.
 bool SimLogView::writeLines(const std::string& file, const std::string& heading, const std::string* delimiter)
 {
-    FILE* f = file.empty() ? stdout : std::fopen(file.c_str(), "w");
+    std::string unwritable;
+    FILE* f = file.empty() ? stdout : openFileByName(file, "w", unwritable);
     if (!f)
         return false;
     bool ok = std::fputs(heading.c_str(), f) >= 0;

@@ -137,3 +137,14 @@ A symlinked preferences file is written through to its target.
   still a link
   $ cmp -s before.ini real/prefs.ini || echo the target changed
   the target changed
+
+The saved log files of the adapter's log: a FIFO is neither read nor, without
+a reader, written (report log ends with 0 and no word, as it does for any
+report it cannot write).
+
+  $ mkfifo log.fifo
+  $ timeout 10 hostcli -zek list log -zek=0 -file=log.fifo
+  "log.fifo" is not a saved log: not a regular file
+  \r             \r*** Object not found --     FAIL --> Could not get HLogView (esc)
+  [255]
+  $ timeout 10 hostcli -zek report log -zek=0 -file=log.fifo
