@@ -15,4 +15,3 @@
 // write). On failure the result is null and `reason` holds why, in the words
 // of strerror where the system gave one.
 std::FILE* openFileByName(std::string const& path, std::string const& mode, std::string& reason);
-
