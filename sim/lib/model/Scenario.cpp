@@ -12,6 +12,7 @@
 
 #include <arpa/inet.h>
 #include <cinttypes>
+#include <cmath>
 #include <cstdio>
 #include <set>
 #include <string_view>
@@ -141,13 +142,35 @@ std::string generalScenarioToText(const San& san)
 
 namespace {
 
-// A misspelt field would otherwise be dropped without a word; compare what
-// was read with what it reads back as, and name the first stray key. Every
-// command reads the state, so the walk builds no text unless it reports:
-// `path` grows and shrinks in place, and leaves are not visited.
+// The library's own comparison takes -5 and 2^64 - 5 as equal; here a whole
+// number must come back with the same digits.
+bool isSameNumber(const nlohmann::json& given, const nlohmann::json& kept)
+{
+    if (kept.is_number_float())
+        return given.get<double>() == kept.get<double>();
+    if (!given.is_number_float())
+        return given.dump() == kept.dump();
+    // A whole value written with a fraction ("2.0") is that whole number,
+    // within the range a double holds exactly.
+    double const value = given.get<double>();
+    return std::fabs(value) < 9007199254740992.0 && value == std::trunc(value) &&
+        nlohmann::json(static_cast<long long>(value)).dump() == kept.dump();
+}
+
+// A misspelt field would otherwise be dropped without a word, and a number
+// out of its field's range changed; compare what was read with what it reads
+// back as, and name the first stray key or changed number. Every command
+// reads the state, so the walk builds no text unless it reports: `path` grows
+// and shrinks in place.
 bool findUnknownKey(const nlohmann::json& given, const nlohmann::json& known, std::string& path, std::string& error)
 {
     auto visit = [&](const nlohmann::json& g, const nlohmann::json& k, const std::string& step) {
+        // A number its field cannot hold (negative, too large, a fraction)
+        // comes back changed: say so rather than keep another value.
+        if (g.is_number() && k.is_number() && !isSameNumber(g, k)) {
+            error = "the field \"" + path + "/" + step + "\" is out of range: " + g.dump();
+            return true;
+        }
         if (!g.is_structured() || !k.is_structured())
             return false;
         size_t const mark = path.size();

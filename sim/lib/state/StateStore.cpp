@@ -3,8 +3,11 @@
 #include "model/DefaultSan.h"
 #include "model/Scenario.h"
 
+#include "core/FileByName.h"
+
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
@@ -191,12 +194,16 @@ bool readTextFile(const std::string& path, std::string& text, std::string& error
     return readWholeFile(path, quoted(path), text, nullptr, error);
 }
 
-bool writeTextFileAtomically(const std::string& path, const std::string& text, std::string& error)
+namespace {
+
+// The bytes go to a temporary file beside `target` first, which is then
+// renamed over it: readers see the old file or the new one, never half.
+bool replaceByRename(const std::string& target, const std::string& path, const std::string& text, std::string& error)
 {
-    if (!makeParentDirectory(path, error))
+    if (!makeParentDirectory(target, error))
         return false;
     // The temporary name is ours, not the user's: messages name `path`.
-    std::string temp = path + ".tmp." + std::to_string(::getpid());
+    std::string temp = target + ".tmp." + std::to_string(::getpid());
     int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0) {
         error = systemError("cannot write", path);
@@ -221,12 +228,64 @@ bool writeTextFileAtomically(const std::string& path, const std::string& text, s
         ::unlink(temp.c_str());
         return false;
     }
-    if (::rename(temp.c_str(), path.c_str()) != 0) {
+    if (::rename(temp.c_str(), target.c_str()) != 0) {
         error = systemError("cannot replace", path);
         ::unlink(temp.c_str());
         return false;
     }
     return true;
+}
+
+// A device, or a pipe that has a reader, takes the bytes where it is:
+// renaming a file over it would destroy it (as root, even /dev/null).
+bool writeInPlace(const std::string& target, const std::string& path, const std::string& text, std::string& error)
+{
+    std::string reason;
+    FILE* file = openFileByName(target, "w", reason);
+    if (!file) {
+        error = "cannot write " + quoted(path) + ": " + reason;
+        return false;
+    }
+    bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+    written = std::fclose(file) == 0 && written;
+    if (!written)
+        error = systemError("cannot write", path);
+    return written;
+}
+
+} // namespace
+
+std::string writeTargetOf(const std::string& path)
+{
+    std::string target = path;
+    // As many links as the system itself would follow.
+    for (int depth = 0; depth < 40; ++depth) {
+        struct stat st;
+        if (::lstat(target.c_str(), &st) != 0 || !S_ISLNK(st.st_mode))
+            return target;
+        std::string link(4096, '\0');
+        ssize_t const n = ::readlink(target.c_str(), link.data(), link.size());
+        if (n <= 0)
+            return target;
+        link.resize(static_cast<size_t>(n));
+        auto const slash = target.rfind('/');
+        target = link[0] == '/' || slash == std::string::npos ? link : target.substr(0, slash + 1) + link;
+    }
+    return target;
+}
+
+bool writeTextFileAtomically(const std::string& path, const std::string& text, std::string& error)
+{
+    std::string const target = writeTargetOf(path);
+    struct stat st;
+    if (::stat(target.c_str(), &st) != 0 || S_ISREG(st.st_mode))
+        return replaceByRename(target, path, text, error);
+    if (S_ISDIR(st.st_mode)) {
+        errno = EISDIR;
+        error = systemError("cannot write", path);
+        return false;
+    }
+    return writeInPlace(target, path, text, error);
 }
 
 StateStore::StateStore(std::string path) : path_(std::move(path)) {}
@@ -280,9 +339,10 @@ bool StateStore::writeText(const std::string& text, std::string& error) const
 // can tell: a temporary file whose process is gone will never be renamed.
 void StateStore::removeStaleTemporaries() const
 {
-    auto slash = path_.rfind('/');
-    std::string dir = slash == std::string::npos ? "." : slash == 0 ? "/" : path_.substr(0, slash);
-    std::string prefix = path_.substr(slash == std::string::npos ? 0 : slash + 1) + ".tmp.";
+    std::string const target = writeTargetOf(path_);
+    auto slash = target.rfind('/');
+    std::string dir = slash == std::string::npos ? "." : slash == 0 ? "/" : target.substr(0, slash);
+    std::string prefix = target.substr(slash == std::string::npos ? 0 : slash + 1) + ".tmp.";
     DIR* d = ::opendir(dir.c_str());
     if (!d)
         return;
@@ -303,7 +363,7 @@ bool StateStore::ensureExists(std::string& error)
     if (!makeParentDirectory(path_, error))
         return false;
     std::unique_ptr<FileLock> lock;
-    if (!lockState(path_, lock, error))
+    if (!lockState(writeTargetOf(path_), lock, error))
         return false;
     if (fileExists(path_))
         return true; // another process made it while we waited
@@ -334,7 +394,7 @@ bool StateStore::update(const std::function<bool(San&)>& change, std::string& er
     if (!ensureExists(error))
         return false;
     std::unique_ptr<FileLock> lock;
-    if (!lockState(path_, lock, error))
+    if (!lockState(writeTargetOf(path_), lock, error))
         return false;
     // Comparing the text, not the stamp, keeps a stale base out even when a
     // new file happens to get the old one's inode, size and time.
@@ -365,7 +425,7 @@ bool StateStore::replace(const San& san, std::string& error)
     if (!makeParentDirectory(path_, error))
         return false;
     std::unique_ptr<FileLock> lock;
-    if (!lockState(path_, lock, error))
+    if (!lockState(writeTargetOf(path_), lock, error))
         return false;
     return writeFile(san, error);
 }

@@ -70,6 +70,12 @@ private:
 // Reads a regular file of at most 256 MiB; anything else is refused with a
 // message naming the file.
 bool readTextFile(const std::string& path, std::string& text, std::string& error);
+// Writes a file whole. A symlink is written through to its target; a regular
+// file or a missing name is replaced by rename, so that no reader sees half
+// of it; a device or a pipe with a reader is written in place. Messages name
+// `path`, never a temporary file.
 bool writeTextFileAtomically(const std::string& path, const std::string& text, std::string& error);
+// The file a write of `path` lands in: `path` with its symlinks followed.
+std::string writeTargetOf(const std::string& path);
 
 } // namespace sim

@@ -11,6 +11,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
@@ -449,4 +450,82 @@ TEST_F(StateStoreTest, TheNextWriterRemovesTemporaryFilesOfDeadWriters)
     EXPECT_TRUE(std::filesystem::exists(other));
     ASSERT_TRUE(store.read(san, error)) << error;
     EXPECT_EQ(san.name, "after");
+}
+
+namespace {
+
+bool isSymlink(const std::string& path)
+{
+    struct stat st;
+    return ::lstat(path.c_str(), &st) == 0 && S_ISLNK(st.st_mode);
+}
+
+} // namespace
+
+TEST_F(StateStoreTest, AStateBehindASymlinkIsChangedInItsTargetAndTheLinkStays)
+{
+    std::string const target = dir + "/real.json";
+    std::string const link = dir + "/link.json";
+    ASSERT_EQ(::symlink("real.json", link.c_str()), 0);
+    StateStore store(link);
+    std::string error;
+    San san;
+    ASSERT_TRUE(store.read(san, error)) << error;
+    ASSERT_TRUE(store.update(
+        [](San& s) {
+            s.name = "through the link";
+            return true;
+        },
+        error))
+        << error;
+    EXPECT_TRUE(isSymlink(link));
+    ASSERT_TRUE(StateStore(target).read(san, error)) << error;
+    EXPECT_EQ(san.name, "through the link");
+}
+
+TEST_F(StateStoreTest, AWholeFileWriteNeverReplacesWhatIsNotARegularFile)
+{
+    std::string error;
+    std::string const toNull = dir + "/null";
+    ASSERT_EQ(::symlink("/dev/null", toNull.c_str()), 0);
+    EXPECT_TRUE(writeTextFileAtomically(toNull, "gone\n", error)) << error;
+    EXPECT_TRUE(isSymlink(toNull));
+
+    std::string const pipe = dir + "/pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_FALSE(writeTextFileAtomically(pipe, "nobody reads\n", error));
+    EXPECT_EQ(error, "cannot write \"" + pipe + "\": No process reads the pipe");
+    int const reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    EXPECT_TRUE(writeTextFileAtomically(pipe, "read\n", error)) << error;
+    char got[8] = {};
+    EXPECT_EQ(::read(reader, got, sizeof got), 5);
+    ::close(reader);
+    struct stat st;
+    ASSERT_EQ(::stat(pipe.c_str(), &st), 0);
+    EXPECT_TRUE(S_ISFIFO(st.st_mode));
+
+    EXPECT_FALSE(writeTextFileAtomically(dir, "a folder\n", error));
+    EXPECT_EQ(error, "cannot write \"" + dir + "\": Is a directory");
+}
+
+TEST_F(StateStoreTest, NumbersOutOfTheirFieldsRangeAreRefusedByName)
+{
+    StateStore store(path);
+    std::string error;
+    San san;
+    ASSERT_TRUE(store.read(san, error));
+    std::string const good = fileText(path);
+    auto const at = good.find("\"cachePoolBytes\": ");
+    ASSERT_NE(at, std::string::npos);
+    auto const end = good.find_first_of(",\n}", at);
+    std::string const field = good.substr(at, end - at);
+    for (std::string const bad : {"-5", "1.5", "18446744073709551616"}) {
+        std::string text = good;
+        text.replace(at, field.size(), "\"cachePoolBytes\": " + bad);
+        std::ofstream(path) << text;
+        EXPECT_FALSE(store.read(san, error)) << bad;
+        EXPECT_NE(error.find("/cachePoolBytes\" is out of range: "), std::string::npos) << error;
+        EXPECT_NE(error.find(path), std::string::npos) << error;
+    }
 }
