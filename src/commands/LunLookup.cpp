@@ -48,6 +48,20 @@ void gatherEveryTarget(HIsaAdapter& adapter)
 
 } // namespace
 
+int gatherLunsOfEveryTarget(HIsaAdapter& adapter)
+{
+    MHbaReturnBuffer firstFailure;
+    int const rc = adapter.getTargetsAndInitiators(&firstFailure);
+    if (rc != MHBA_S_OK && rc != MHBA_S_PARTIAL_SUCCESS)
+        return rc;
+    for (HTarget* target : adapter.getTargets()->items) {
+        MHbaReturnBuffer lunFailure;
+        if (int const lunRc = adapter.getLunsForSpecificTarget(target, &lunFailure))
+            return lunRc;
+    }
+    return 0;
+}
+
 int findAdapterAndLuns(TokenCmd& cmd, AddressedAdapter& addressed, bool oneLunRequired, std::vector<PLunID>& luns,
                        std::string& err)
 {

@@ -48,6 +48,10 @@ enum class LunGathering {
     EveryTarget,
 };
 
+// Gathers every target and then the LUNs of each. Returns 0 or the first
+// failing code (a partial target list, 2, still counts as success).
+int gatherLunsOfEveryTarget(HIsaAdapter& adapter);
+
 // The adapter's object for this LUN path, gathering as `gathering` says when
 // the library does not hold it yet. Null when the adapter still holds no such
 // LUN.

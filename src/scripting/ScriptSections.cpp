@@ -1,7 +1,7 @@
 #include "scripting/ScriptSections.h"
 
 #include "api/HbaMgmtInterfaces.h"
-#include "api/MHbaReturnBuffer.h"
+#include "commands/LunLookup.h"
 #include "records/KLunInfo.h"
 #include "records/PUniqueID.h"
 
@@ -10,24 +10,10 @@ std::string scriptCommandWords(CmdAction::CMD_ACTION action, CmdItem::CMD_ITEM i
     return CmdAction::table().textFromVal(action) + " " + CmdItem::table().textFromVal(item);
 }
 
-int gatherScriptLuns(HIsaAdapter& adapter)
-{
-    MHbaReturnBuffer firstFailure;
-    int const rc = adapter.getTargetsAndInitiators(&firstFailure);
-    if (rc != MHBA_S_OK && rc != MHBA_S_PARTIAL_SUCCESS)
-        return rc;
-    for (HTarget* target : adapter.getTargets()->items) {
-        MHbaReturnBuffer lunFailure;
-        if (int const lunRc = adapter.getLunsForSpecificTarget(target, &lunFailure))
-            return lunRc;
-    }
-    return 0;
-}
-
 int readScriptLuns(HIsaAdapter& adapter, std::vector<HLun*>& luns)
 {
     if (adapter.getLuns()->items.empty())
-        if (int const rc = gatherScriptLuns(adapter))
+        if (int const rc = gatherLunsOfEveryTarget(adapter))
             return rc;
     for (HLun* lun : adapter.getLuns()->items) {
         if (!lun->getLunInfo()->isLunInfoValid())

@@ -16,10 +16,6 @@ class PLunID;
 // gives an empty word.
 std::string scriptCommandWords(CmdAction::CMD_ACTION action, CmdItem::CMD_ITEM item);
 
-// Gathers every target and then the LUNs of each. Returns 0 or the first
-// failing code (a partial target list, 2, still counts as success).
-int gatherScriptLuns(HIsaAdapter& adapter);
-
 // The adapter's LUN objects with readable records: gathered first when the
 // collection is empty, each stale record refreshed. Returns 0 or the code of
 // the gathering or of the first refresh that failed.

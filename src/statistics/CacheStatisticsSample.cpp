@@ -8,6 +8,7 @@
 #include "api/HLunCollection.h"
 #include "api/HTargetCollection.h"
 #include "api/MHbaReturnBuffer.h"
+#include "commands/LunLookup.h"
 
 namespace {
 
@@ -30,15 +31,8 @@ private:
 
 int gatherLuns(HIsaAdapter& adapter)
 {
-    MHbaReturnBuffer firstFailure;
-    int const rc = adapter.getTargetsAndInitiators(&firstFailure);
-    if (rc != MHBA_S_OK && rc != MHBA_S_PARTIAL_SUCCESS)
+    if (int const rc = gatherLunsOfEveryTarget(adapter))
         return rc;
-    for (HTarget* target : adapter.getTargets()->items) {
-        MHbaReturnBuffer lunFailure;
-        if (int const lunRc = adapter.getLunsForSpecificTarget(target, &lunFailure))
-            return lunRc;
-    }
     return adapter.getLuns()->items.empty() ? MHBA_E_OBJECT_NOT_FOUND : MHBA_S_OK;
 }
 

@@ -1,6 +1,7 @@
 #include "commands/storage/CmdDriveAdd.h"
 
 #include "api/HbaMgmtInterfaces.h"
+#include "commands/LunLookup.h"
 #include "commands/storage/DrivePools.h"
 #include "core/ZekcliReturn.h"
 #include "records/KLunInfo.h"
@@ -84,7 +85,7 @@ bool poolHoldsDrive(HDrivePool& pool, KDriveID const& drive)
 
 int CmdDriveAdd::saveScript(HIsaAdapter* adapter, FILE* file, std::string const&, std::string const&, std::string& err)
 {
-    if (int const rc = gatherScriptLuns(*adapter))
+    if (int const rc = gatherLunsOfEveryTarget(*adapter))
         return rc;
     std::vector<KDriveID> const drives = cachingDrivesOf(*adapter);
     if (drives.empty())
